@@ -1,0 +1,104 @@
+#pragma once
+
+#include "tavlozelkon_lib_export.h"
+
+#include <QDomDocument>
+#include <QMap>
+#include <QString>
+#include <QXmlSchema>
+#include <memory>
+
+class MessageHandler;
+
+/*
+ * The one configuration document the whole wizard edits: an XML DOM document below a
+ * "zelkon" root plus a single movable cursor. Pages, frames and models move the cursor
+ * into their section and read or write small leaf elements whose text is the value.
+ * The document is what is loaded from and saved to ".tavlocfg" files, validated,
+ * rendered as the HTML summary and applied to the device.
+ *
+ * Failures are results (false, -1, empty strings), never exceptions; file errors are
+ * silent at this level, but load() and save() also say whether they succeeded so that an
+ * application can tell its user.
+ */
+class TAVLOZELKON_LIB_EXPORT ConfigFile : public QDomDocument
+{
+public:
+    ConfigFile();
+    ~ConfigFile();
+    ConfigFile(const ConfigFile&) = delete;
+    ConfigFile& operator=(const ConfigFile&) = delete;
+
+    // Navigation, relative to the cursor.
+    bool findNode(QString name, int index);
+    QDomNode findNode(const QString& name, const QDomNode& start) const;
+    int addNode(QString name);
+    bool leaveNode();
+    bool removeNode(QString name, int index);
+    void removeValue(QString key);
+    int nodeCount();
+    int namedNodeCount(QString name);
+    void setCurrentNodeAsRoot();
+    QString currentNodePath();
+    QDomNode currentNode() const { return m_currentNode; }
+
+    // Values: leaf elements below the cursor, found at any depth.
+    QString value(const QString& key);
+    int intValue(const QString& key);
+    bool boolValue(const QString& key);
+    void setValue(QString key, QString text);
+    void setIntValue(QString key, int n);
+    void setBoolValue(QString key, bool b);
+    void createTextNode(QString key, QString text);
+
+    // Text and attributes of the cursor element.
+    QDomText getTextNode();
+    QString getTextValue();
+    void changeTextNode(QString text);
+    bool hasAttribute(QString name) const;
+    QString attribute(QString name) const;
+    void setAttributeValue(QString name, QString value);
+
+    // Whole document.
+    void clear();
+    QString toString();
+    void sortNodes();
+
+    // Files. load() and save() return whether the file could be read or written; the
+    // document's own callers may ignore that, as the wizard's pages do.
+    bool load(QString path);
+    bool save(const QString& path);
+    void setfilename(QString name);
+    QString getfilename();
+    void createDefaultConfigFile();
+    void apply(const QString& path);
+
+    // Validation against an XML schema. No schema is loaded by default; a host supplies
+    // one with setSchema().
+    void loadSchema();
+    bool setSchema(const QByteArray& schemaData);
+    bool validate();
+    bool isValid() const { return m_valid; }
+    QString errorMessage() const { return m_errorMessage; }
+
+    // The HTML summary.
+    QString sectionAlias(const QString& name);
+    QString toFormattedString();
+    QString elementToString(QDomElement& section);
+    QString sessionToString(QDomElement& element);
+    QString generalSettingsToString(QDomElement& element);
+    QString proxySettingsToString(QDomElement& element);
+
+private:
+    void addXmlVersion();
+    void addRootNode();
+    void createSectionAliasList();
+
+    QDomNode m_currentNode;
+    bool m_valid = false;
+    QString m_errorMessage;
+    QXmlSchema m_schema;
+    std::unique_ptr<MessageHandler> m_messageHandler;
+    QMap<QString, QString> m_sectionAliases;
+    QString m_fileName;
+};
