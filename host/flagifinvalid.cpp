@@ -10,8 +10,7 @@ bool flagIfInvalid(QLineEdit* edit)
     QString text = edit->text();
     int position = 0;
     const QValidator* validator = edit->validator();
-    const bool invalid
-        = text.isEmpty() || (validator && validator->validate(text, position) != QValidator::Acceptable);
+    const bool invalid = text.isEmpty() || (validator && validator->validate(text, position) != QValidator::Acceptable);
     edit->setStyleSheet(invalid ? QStringLiteral("QLineEdit { border: 2px solid #d32f2f; background: #fdecea; }")
                                 : QString());
     edit->setProperty("invalid", invalid);

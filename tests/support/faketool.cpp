@@ -45,9 +45,11 @@ void FakeTool::setWritesFile(const QString& fileName, const QByteArray& contents
 void FakeTool::writeScript()
 {
     // Arguments are logged one per line after a "--run" line holding the working directory.
-    QString script = QStringLiteral("#!/bin/sh\nlog=%1\n"
-                                    "{ printf -- '--run %s\\n' \"$(pwd)\"; for a in \"$@\"; do printf '%s\\n' \"$a\"; done; } >> \"$log\"\n")
-                         .arg(shellQuote(m_dir.filePath(QStringLiteral("log"))));
+    QString script
+        = QStringLiteral(
+              "#!/bin/sh\nlog=%1\n"
+              "{ printf -- '--run %s\\n' \"$(pwd)\"; for a in \"$@\"; do printf '%s\\n' \"$a\"; done; } >> \"$log\"\n")
+              .arg(shellQuote(m_dir.filePath(QStringLiteral("log"))));
     if (!m_writtenFileName.isEmpty())
         script += QStringLiteral("cp %1 %2\n")
                       .arg(shellQuote(m_dir.filePath(QStringLiteral("payload"))), shellQuote(m_writtenFileName));

@@ -1,0 +1,41 @@
+#include "zelkonregionalpage.h"
+
+ZelkonRegionalPage::ZelkonRegionalPage(QWidget* parent)
+    : ConfigPage(parent)
+{
+    setup();
+}
+
+ZelkonRegionalPage::~ZelkonRegionalPage() = default;
+
+void ZelkonRegionalPage::setup()
+{
+    createAccordion();
+    beginStretchedLayout();
+    createItems();
+    endStretchedLayout();
+    retranslateUi();
+}
+
+void ZelkonRegionalPage::createItems()
+{
+    // The time zone, keyboard and locale frames are added here, in that order.
+}
+
+QString ZelkonRegionalPage::title() const
+{
+    return tr("Regional");
+}
+
+QString ZelkonRegionalPage::description() const
+{
+    return tr("Regional");
+}
+
+QString ZelkonRegionalPage::baseHelpText() const
+{
+    return tr("<b>Regional</b> <br>These options enable you to configure the following features of your Thin "
+              "Clients:<p>1. The Time Zone.</p><p>2. The Keyboard layout.</p><p>3. The Locale.</p>");
+}
+
+void ZelkonRegionalPage::retranslateUi() { }
