@@ -1,0 +1,185 @@
+#include "documentcontroller.h"
+
+#include "configfilecheck.h"
+
+#include "config/configfile.h"
+#include "pages/configpage.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QHash>
+#include <QStringList>
+
+DocumentController::DocumentController(QObject* parent)
+    : QObject(parent)
+    , m_loaded(std::make_unique<ConfigFile>())
+    , m_generated(std::make_unique<ConfigFile>())
+{
+}
+
+DocumentController::~DocumentController() = default;
+
+void DocumentController::setPages(const QList<ConfigPage*>& pages)
+{
+    m_pages.clear();
+    for (ConfigPage* page : pages)
+        m_pages.append(page);
+}
+
+void DocumentController::newDocument()
+{
+    m_loaded = std::make_unique<ConfigFile>();
+    m_filePath.clear();
+}
+
+bool DocumentController::load(const QString& path, QString* reason)
+{
+    const QString problem = ConfigFileCheck::problem(path);
+    if (!problem.isEmpty()) {
+        if (reason)
+            *reason = problem;
+        return false;
+    }
+    auto loaded = std::make_unique<ConfigFile>();
+    if (!loaded->load(path)) {
+        if (reason)
+            *reason = tr("It cannot be read.");
+        return false;
+    }
+    loaded->setCurrentNodeAsRoot();
+    m_loaded = std::move(loaded);
+    m_filePath = QFileInfo(path).absoluteFilePath();
+    return true;
+}
+
+void DocumentController::loadPages()
+{
+    for (ConfigPage* page : qAsConst(m_pages)) {
+        if (page)
+            page->loadConfig(m_loaded.get(), false);
+    }
+    m_loaded->setCurrentNodeAsRoot();
+}
+
+/*
+ * The generated document is never edited in place. Frames write only the sections they
+ * hold as dirty, and the connection model appends a new "desktop" element whenever its
+ * settings are dirty without removing the old one; generating into the same document
+ * again (the summary is regenerated every time it is shown) would therefore pile up
+ * sections. Each generation starts instead from a fresh copy of the loaded document, so
+ * that it can be repeated at will, and so that whatever no page writes (sections of
+ * connection types this machine cannot launch, "altiris", "network_printer", sections
+ * this wizard does not know) is saved exactly as it was loaded.
+ *
+ * tidySections() then resolves what writers that append rather than replace leave
+ * behind, and keeps the loaded file's section order.
+ */
+void DocumentController::generate()
+{
+    const QDomElement loadedRoot = m_loaded->documentElement();
+    QDomElement oldRoot = m_generated->documentElement();
+    QDomNode copy = m_generated->importNode(loadedRoot, true);
+    m_generated->replaceChild(copy, oldRoot);
+    m_generated->setCurrentNodeAsRoot();
+
+    for (ConfigPage* page : qAsConst(m_pages)) {
+        if (!page)
+            continue;
+        m_generated->setCurrentNodeAsRoot();
+        page->saveConfig(m_generated.get());
+    }
+
+    QDomElement generatedRoot = m_generated->documentElement();
+    tidySections(loadedRoot, generatedRoot);
+    m_generated->setCurrentNodeAsRoot();
+}
+
+/*
+ * A section name that occurs more often below the root than it did in the loaded file
+ * was appended by a writer that does not replace its old section; the last one written
+ * is the current one and the others go (otherwise the next load would read the stale
+ * first one). Sections keep the loaded file's order; sections it did not have follow in
+ * the order they were written. Repeated sections that came from the file untouched stay.
+ */
+void DocumentController::tidySections(const QDomElement& loadedRoot, QDomElement& generatedRoot)
+{
+    QStringList order;
+    QHash<QString, int> loadedCount;
+    for (QDomElement section = loadedRoot.firstChildElement(); !section.isNull();
+         section = section.nextSiblingElement()) {
+        if (!loadedCount.contains(section.tagName()))
+            order.append(section.tagName());
+        ++loadedCount[section.tagName()];
+    }
+
+    QStringList writtenOrder;
+    QHash<QString, QList<QDomElement>> sections;
+    for (QDomElement section = generatedRoot.firstChildElement(); !section.isNull();
+         section = section.nextSiblingElement()) {
+        if (!sections.contains(section.tagName()))
+            writtenOrder.append(section.tagName());
+        sections[section.tagName()].append(section);
+    }
+    for (const QString& name : qAsConst(writtenOrder)) {
+        if (!loadedCount.contains(name))
+            order.append(name);
+    }
+
+    for (auto it = sections.begin(); it != sections.end(); ++it) {
+        QList<QDomElement>& group = it.value();
+        if (group.size() > 1 && group.size() > loadedCount.value(it.key()))
+            group = { group.constLast() };
+    }
+
+    for (QDomElement section = generatedRoot.firstChildElement(); !section.isNull();) {
+        QDomElement next = section.nextSiblingElement();
+        generatedRoot.removeChild(section);
+        section = next;
+    }
+    for (const QString& name : qAsConst(order)) {
+        for (const QDomElement& section : sections.value(name))
+            generatedRoot.appendChild(section);
+    }
+}
+
+bool DocumentController::save(const QString& path, QString* reason)
+{
+    generate();
+    if (!m_generated->save(path)) {
+        if (reason)
+            *reason = saveFailureReason(path);
+        return false;
+    }
+    m_filePath = QFileInfo(path).absoluteFilePath();
+    return true;
+}
+
+bool DocumentController::apply(QString* reason)
+{
+    generate();
+    // The settings tool applies whatever "default.tavlocfg" holds, so it must not run
+    // when this configuration could not be written there.
+    if (!m_generated->save(applyFileName())) {
+        if (reason)
+            *reason = saveFailureReason(QDir::current().absoluteFilePath(applyFileName()));
+        return false;
+    }
+    m_generated->apply(applyFileName());
+    return true;
+}
+
+// The document layer only says that writing failed; tell the user the likely cause.
+QString DocumentController::saveFailureReason(const QString& path)
+{
+    const QFileInfo info(path);
+    const QFileInfo folder(info.absolutePath());
+    if (!folder.exists())
+        return tr("The folder \"%1\" does not exist.").arg(QDir::toNativeSeparators(folder.absoluteFilePath()));
+    if (!folder.isDir())
+        return tr("\"%1\" is not a folder.").arg(QDir::toNativeSeparators(folder.absoluteFilePath()));
+    if (info.isDir())
+        return tr("A folder of that name is in the way.");
+    if (!folder.isWritable() || (info.exists() && !info.isWritable()))
+        return tr("You have no permission to write there.");
+    return tr("It could not be written; the disk may be full.");
+}

@@ -1,0 +1,113 @@
+#include "launcher.h"
+
+#include "commandline.h"
+#include "configfilecheck.h"
+#include "mainwindow.h"
+#include "pagescreenshotter.h"
+
+#include "device/machineroot.h"
+#include "pages/zelkontitlepage.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QTextStream>
+#include <vector>
+
+namespace {
+QTextStream& out()
+{
+    static QTextStream stream(stdout);
+    return stream;
+}
+
+QTextStream& err()
+{
+    static QTextStream stream(stderr);
+    return stream;
+}
+} // namespace
+
+void Launcher::prepareArguments(int argc, char** argv)
+{
+    // Qt takes "--platform" for its window-system plugin; ours goes by its other name.
+    static std::vector<QByteArray> renamed;
+    renamed.reserve(argc);
+    bool needsNoDisplay = false;
+    for (int i = 1; i < argc; ++i) {
+        const QByteArray argument(argv[i]);
+        if (argument == "--")
+            break;
+        if (argument == "--platform" || argument.startsWith("--platform=")) {
+            renamed.push_back("--target" + argument.mid(10));
+            argv[i] = renamed.back().data();
+        }
+        if (argument == "--screenshots" || argument.startsWith("--screenshots=") || argument == "--help"
+            || argument == "--version")
+            needsNoDisplay = true;
+    }
+    if (needsNoDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+int Launcher::run(const QStringList& arguments)
+{
+    CommandLine commandLine;
+    if (!commandLine.parse(arguments)) {
+        err() << commandLine.errorText() << '\n' << tr("Try --help.") << Qt::endl;
+        return 2;
+    }
+    if (commandLine.helpRequested()) {
+        out() << commandLine.helpText() << Qt::flush;
+        return 0;
+    }
+    if (commandLine.versionRequested()) {
+        out() << QCoreApplication::applicationName() << ' ' << QCoreApplication::applicationVersion() << Qt::endl;
+        return 0;
+    }
+
+    // Every page probes the machine while it is built, so the root must be set first.
+    if (!commandLine.deviceRoot().isEmpty()) {
+        const QFileInfo root(commandLine.deviceRoot());
+        if (!root.isDir()) {
+            err() << tr("The device root \"%1\" is not a folder.").arg(QDir::toNativeSeparators(root.filePath()))
+                  << Qt::endl;
+            return 2;
+        }
+        MachineRoot::setRoot(root.absoluteFilePath());
+    }
+
+    MainWindow window;
+    if (commandLine.standalone())
+        window.standaloneCheck()->setChecked(true);
+    if (commandLine.platformIndex() >= 0)
+        window.titlePage()->platformCombo()->setCurrentIndex(commandLine.platformIndex());
+    if (!commandLine.fileName().isEmpty()) {
+        // Rendering runs unattended: say what is wrong instead of waiting for a message box.
+        const QString problem = ConfigFileCheck::problem(commandLine.fileName());
+        if (!problem.isEmpty() && !commandLine.screenshotDirectory().isEmpty()) {
+            err() << tr("Cannot open \"%1\": %2").arg(QDir::toNativeSeparators(commandLine.fileName()), problem)
+                  << Qt::endl;
+            return 1;
+        }
+        window.openFile(commandLine.fileName());
+    }
+
+    if (!commandLine.screenshotDirectory().isEmpty()) {
+        PageScreenshotter screenshotter(&window);
+        if (!screenshotter.write(commandLine.screenshotDirectory())) {
+            err() << screenshotter.errorText() << Qt::endl;
+            return 1;
+        }
+        out() << tr("Wrote %1 pages to %2.")
+                     .arg(PageScreenshotter::fileNames().size())
+                     .arg(QDir::toNativeSeparators(QDir(commandLine.screenshotDirectory()).absolutePath()))
+              << Qt::endl;
+        return 0;
+    }
+
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QStringList>
+
+/*
+ * Turns the command line into a running wizard: points the library at the device tree,
+ * builds the window, sets the platform, opens the file, and either renders the pages and
+ * exits or runs the event loop. main() only creates the application object.
+ */
+class Launcher
+{
+    Q_DECLARE_TR_FUNCTIONS(Launcher)
+
+public:
+    Launcher() = delete;
+
+    // Before the application object exists, which would take some of our options for
+    // its own. argv must stay valid for the life of the application object.
+    static void prepareArguments(int argc, char** argv);
+    // arguments as QCoreApplication::arguments() gives them. Returns the exit code; runs
+    // the event loop unless the arguments ask for something else.
+    static int run(const QStringList& arguments);
+};

@@ -1,0 +1,519 @@
+#include "mainwindow.h"
+
+#include "documentcontroller.h"
+#include "filechooser.h"
+
+#include "config/configfile.h"
+#include "pages/configpage.h"
+#include "pages/zelkonconnectionspage.h"
+#include "pages/zelkonmanagementpage.h"
+#include "pages/zelkonperipheralpage.h"
+#include "pages/zelkonregionalpage.h"
+#include "pages/zelkonsummarypage.h"
+#include "pages/zelkontitlepage.h"
+
+#include "accordion.h"
+#include "accordionitem.h"
+#include "platform.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QStyle>
+#include <QTextBrowser>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace {
+const int StatusTimeoutMs = 5000;
+
+QString nativePath(const QString& path)
+{
+    return QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
+}
+
+// A container page with nothing to offer (no frames, or all hidden by platform rules).
+bool hasNoVisibleFrames(WizardPage* page)
+{
+    auto* configPage = qobject_cast<ConfigPage*>(page);
+    if (!configPage || !configPage->accordion())
+        return false;
+    const QList<AccordionItem*> items = configPage->accordion()->items();
+    return std::none_of(items.cbegin(), items.cend(), [](AccordionItem* item) { return !item->isHidden(); });
+}
+} // namespace
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent)
+    , m_document(new DocumentController(this))
+    , m_fileChooser(std::make_unique<FileChooser>())
+{
+    setObjectName(QStringLiteral("MainWindow"));
+    createActions();
+    createWidgets();
+    createPages();
+
+    connect(Platform::instance(), &Platform::platformChange, this, &MainWindow::onPlatformChanged);
+    onPlatformChanged();
+    updateWindowTitle();
+    resize(1000, 700);
+    showPage(TitlePage);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::setFileChooser(std::unique_ptr<FileChooser> chooser)
+{
+    m_fileChooser = std::move(chooser);
+}
+
+WizardPage* MainWindow::page(int index) const
+{
+    return m_pages.value(index);
+}
+
+QList<ConfigPage*> MainWindow::containerPages() const
+{
+    QList<ConfigPage*> pages;
+    for (WizardPage* each : m_pages) {
+        if (auto* configPage = qobject_cast<ConfigPage*>(each))
+            pages.append(configPage);
+    }
+    return pages;
+}
+
+void MainWindow::createActions()
+{
+    QStyle* style = QApplication::style();
+    m_newAction = new QAction(style->standardIcon(QStyle::SP_FileIcon), tr("&New"), this);
+    m_newAction->setShortcut(QKeySequence::New);
+    m_newAction->setStatusTip(tr("Start a new configuration"));
+    connect(m_newAction, &QAction::triggered, this, &MainWindow::newDocument);
+
+    m_openAction = new QAction(style->standardIcon(QStyle::SP_DialogOpenButton), tr("&Open..."), this);
+    m_openAction->setShortcut(QKeySequence::Open);
+    m_openAction->setStatusTip(tr("Open a configuration file"));
+    connect(m_openAction, &QAction::triggered, this, &MainWindow::open);
+
+    m_saveAction = new QAction(style->standardIcon(QStyle::SP_DialogSaveButton), tr("&Save"), this);
+    m_saveAction->setShortcut(QKeySequence::Save);
+    m_saveAction->setStatusTip(tr("Save the configuration"));
+    connect(m_saveAction, &QAction::triggered, this, &MainWindow::save);
+
+    m_saveAsAction = new QAction(tr("Save &As..."), this);
+    m_saveAsAction->setShortcut(QKeySequence::SaveAs);
+    m_saveAsAction->setStatusTip(tr("Save the configuration under a new name"));
+    connect(m_saveAsAction, &QAction::triggered, this, &MainWindow::saveAs);
+
+    m_quitAction = new QAction(tr("&Quit"), this);
+    m_quitAction->setShortcut(QKeySequence::Quit);
+    connect(m_quitAction, &QAction::triggered, this, &QWidget::close);
+
+    m_aboutAction = new QAction(tr("&About Zelkon"), this);
+    connect(m_aboutAction, &QAction::triggered, this, [this] {
+        QMessageBox::about(this, tr("About Zelkon"),
+                           tr("<b>Zelkon</b> %1<p>Configuration wizard for Tavlo Thin Clients.</p>")
+                               .arg(QApplication::applicationVersion()));
+    });
+
+    QMenu* fileMenu = menuBar()->addMenu(tr("&File"));
+    fileMenu->addAction(m_newAction);
+    fileMenu->addAction(m_openAction);
+    fileMenu->addAction(m_saveAction);
+    fileMenu->addAction(m_saveAsAction);
+    fileMenu->addSeparator();
+    fileMenu->addAction(m_quitAction);
+    QMenu* helpMenu = menuBar()->addMenu(tr("&Help"));
+    helpMenu->addAction(m_aboutAction);
+}
+
+void MainWindow::createWidgets()
+{
+    m_pageList = new QListWidget;
+    m_pageList->setObjectName(QStringLiteral("PageList"));
+    m_pageList->setFixedWidth(170);
+    m_pageList->setIconSize(QSize(16, 16));
+    m_pageList->setSpacing(2);
+    connect(m_pageList, &QListWidget::currentRowChanged, this, &MainWindow::showPage);
+
+    m_headerTitle = new QLabel;
+    m_headerTitle->setObjectName(QStringLiteral("PageTitle"));
+    QFont titleFont = m_headerTitle->font();
+    titleFont.setPointSizeF(titleFont.pointSizeF() * 1.6);
+    titleFont.setBold(true);
+    m_headerTitle->setFont(titleFont);
+    m_headerDescription = new QLabel;
+    m_headerDescription->setObjectName(QStringLiteral("PageDescription"));
+    m_headerDescription->setWordWrap(true);
+    m_headerDescription->setTextFormat(Qt::RichText);
+    m_header = new QWidget;
+    auto* headerLayout = new QVBoxLayout(m_header);
+    headerLayout->setContentsMargins(0, 0, 0, 6);
+    headerLayout->addWidget(m_headerTitle);
+    headerLayout->addWidget(m_headerDescription);
+    auto* rule = new QFrame;
+    rule->setFrameShape(QFrame::HLine);
+    rule->setFrameShadow(QFrame::Sunken);
+    headerLayout->addWidget(rule);
+
+    m_emptyHint = new QLabel;
+    m_emptyHint->setObjectName(QStringLiteral("EmptyPageHint"));
+    m_emptyHint->setAlignment(Qt::AlignCenter);
+    m_emptyHint->setWordWrap(true);
+    m_emptyHint->setEnabled(false);
+    m_emptyHint->setText(tr("There is nothing to set on this page for the selected platform on this machine."));
+
+    m_stack = new QStackedWidget;
+    m_stack->setObjectName(QStringLiteral("PageStack"));
+    // The title and summary pages carry their own title label.
+    m_stack->setStyleSheet(QStringLiteral("QLabel#Title { font-size: 22pt; font-weight: bold; }"));
+
+    m_backButton = new QPushButton(tr("< &Back"));
+    m_backButton->setObjectName(QStringLiteral("BackButton"));
+    connect(m_backButton, &QPushButton::clicked, this, &MainWindow::back);
+    m_nextButton = new QPushButton(tr("&Next >"));
+    m_nextButton->setObjectName(QStringLiteral("NextButton"));
+    m_nextButton->setDefault(true);
+    connect(m_nextButton, &QPushButton::clicked, this, &MainWindow::next);
+
+    m_buttonRow = new QHBoxLayout;
+    m_buttonRow->addStretch();
+    m_buttonRow->addWidget(m_backButton);
+    m_buttonRow->addWidget(m_nextButton);
+
+    auto* content = new QWidget;
+    auto* contentLayout = new QVBoxLayout(content);
+    contentLayout->addWidget(m_header);
+    contentLayout->addWidget(m_emptyHint);
+    contentLayout->addWidget(m_stack, 1);
+    contentLayout->addLayout(m_buttonRow);
+
+    auto* helpTitle = new QLabel(tr("<b>Help</b>"));
+    m_helpView = new QTextBrowser;
+    m_helpView->setObjectName(QStringLiteral("HelpView"));
+    m_helpView->setOpenExternalLinks(true);
+    auto* helpPane = new QWidget;
+    auto* helpLayout = new QVBoxLayout(helpPane);
+    helpLayout->addWidget(helpTitle);
+    helpLayout->addWidget(m_helpView);
+
+    auto* splitter = new QSplitter(Qt::Horizontal);
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(content);
+    splitter->addWidget(helpPane);
+    splitter->setStretchFactor(0, 1);
+    splitter->setSizes({ 540, 280 });
+
+    auto* central = new QWidget;
+    auto* centralLayout = new QHBoxLayout(central);
+    centralLayout->addWidget(m_pageList);
+    centralLayout->addWidget(splitter, 1);
+    setCentralWidget(central);
+
+    m_standaloneCheck = new QCheckBox(tr("Standalone"));
+    m_standaloneCheck->setObjectName(QStringLiteral("StandaloneCheck"));
+    m_standaloneCheck->setToolTip(
+        tr("Prepare configuration files on this computer instead of configuring the Thin Client it runs on."));
+    m_standaloneCheck->setChecked(Platform::isStandalone());
+    connect(m_standaloneCheck, &QCheckBox::toggled, Platform::instance(), &Platform::setStandalone);
+
+    statusBar();
+}
+
+void MainWindow::createPages()
+{
+    m_titlePage = new ZelkonTitlePage;
+    m_titlePage->setupPlatforms();
+    // The chooser shows the global target, which may have been set before this window.
+    m_titlePage->platformCombo()->setCurrentIndex(Platform::instance()->target());
+    m_titlePage->platformLabel()->setText(tr("Target &platform:"));
+    connect(m_titlePage, &ZelkonTitlePage::loadConfig, this, &MainWindow::open);
+    connect(m_titlePage, &ZelkonTitlePage::saveConfig, this, &MainWindow::save);
+    connect(m_titlePage, &ZelkonTitlePage::generateConfig, m_document, &DocumentController::generate);
+
+    QToolBar* toolBar = addToolBar(tr("Main"));
+    toolBar->setObjectName(QStringLiteral("MainToolBar"));
+    toolBar->setMovable(false);
+    toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    toolBar->addAction(m_newAction);
+    toolBar->addAction(m_openAction);
+    toolBar->addAction(m_saveAction);
+    toolBar->addSeparator();
+    auto* platformBox = new QWidget;
+    auto* platformLayout = new QHBoxLayout(platformBox);
+    platformLayout->setContentsMargins(8, 0, 8, 0);
+    platformLayout->addWidget(m_titlePage->platformLabel());
+    platformLayout->addWidget(m_titlePage->platformCombo());
+    platformLayout->addSpacing(12);
+    platformLayout->addWidget(m_standaloneCheck);
+    m_titlePage->platformLabel()->show();
+    m_titlePage->platformCombo()->show();
+    toolBar->addWidget(platformBox);
+
+    m_summaryPage = new ZelkonSummaryPage(m_document->generatedDocument());
+    connect(m_summaryPage, &ZelkonSummaryPage::generateConfig, m_document, &DocumentController::generate);
+    connect(m_summaryPage, &ZelkonSummaryPage::saveConfig, this, &MainWindow::save);
+    connect(m_summaryPage, &ZelkonSummaryPage::applyConfig, this, &MainWindow::applyToDevice);
+    // The page centres a small summary between stretches; here it gets the room there is.
+    if (auto* summaryLayout = qobject_cast<QBoxLayout*>(m_summaryPage->layout()))
+        summaryLayout->setStretchFactor(m_summaryPage->summaryView(), 1);
+    QPushButton* saveButton = m_summaryPage->saveButton();
+    m_buttonRow->insertWidget(0, saveButton);
+    saveButton->setIcon(QApplication::style()->standardIcon(QStyle::SP_DialogSaveButton));
+
+    m_pages = { m_titlePage, nullptr, nullptr, nullptr, nullptr, m_summaryPage };
+    for (int index = 0; index < PageCount; ++index) {
+        auto* area = new QScrollArea;
+        area->setWidgetResizable(true);
+        area->setFrameShape(QFrame::NoFrame);
+        m_pageAreas.append(area);
+        m_stack->addWidget(area);
+        m_pageList->addItem(QString());
+    }
+    m_pageAreas.at(TitlePage)->setWidget(m_titlePage);
+    m_pageAreas.at(SummaryPage)->setWidget(m_summaryPage);
+    connectPage(m_titlePage);
+    connectPage(m_summaryPage);
+    buildContainerPages();
+}
+
+void MainWindow::buildContainerPages()
+{
+    const QList<WizardPage*> pages
+        = { new ZelkonRegionalPage, new ZelkonManagementPage, new ZelkonPeripheralPage, new ZelkonConnectionsPage };
+    for (int i = 0; i < pages.size(); ++i) {
+        const int index = RegionalPage + i;
+        m_pages[index] = pages.at(i);
+        // Deletes the page this one replaces.
+        m_pageAreas.at(index)->setWidget(pages.at(i));
+        connectPage(pages.at(i));
+        connect(pages.at(i), &WizardPage::modified, this, &MainWindow::onPageModified);
+    }
+    for (int index = 0; index < PageCount; ++index)
+        m_pageList->item(index)->setText(QStringLiteral("%1.  %2").arg(index + 1).arg(m_pages.at(index)->title()));
+    m_document->setPages(containerPages());
+    m_pagesPristine = true;
+    emit containerPagesBuilt();
+}
+
+void MainWindow::connectPage(WizardPage* page)
+{
+    auto showHelp = [this, page](const QString& text) {
+        if (m_pages.value(m_current) == page)
+            m_helpView->setHtml(text);
+    };
+    if (auto* configPage = qobject_cast<ConfigPage*>(page))
+        connect(configPage, &ConfigPage::helpChanged, this, showHelp);
+    else if (auto* titlePage = qobject_cast<ZelkonTitlePage*>(page))
+        connect(titlePage, &ZelkonTitlePage::helpChanged, this, showHelp);
+    else if (auto* summaryPage = qobject_cast<ZelkonSummaryPage*>(page))
+        connect(summaryPage, &ZelkonSummaryPage::helpChanged, this, showHelp);
+}
+
+void MainWindow::showPage(int index)
+{
+    if (index < 0 || index >= PageCount)
+        return;
+    m_current = index;
+    WizardPage* shown = m_pages.at(index);
+    shown->setupToShow();
+    m_stack->setCurrentIndex(index);
+    if (m_pageList->currentRow() != index) {
+        const QSignalBlocker blocker(m_pageList);
+        m_pageList->setCurrentRow(index);
+    }
+    m_backButton->setEnabled(index > 0);
+    m_nextButton->setEnabled(index < PageCount - 1);
+    m_summaryPage->saveButton()->setVisible(index == SummaryPage);
+    refreshPageFrame();
+}
+
+void MainWindow::back()
+{
+    showPage(m_current - 1);
+}
+
+void MainWindow::next()
+{
+    showPage(m_current + 1);
+}
+
+// Header, help and hint of the current page, which depend on the platform as well.
+void MainWindow::refreshPageFrame()
+{
+    WizardPage* shown = m_pages.value(m_current);
+    if (!shown)
+        return;
+    const bool container = qobject_cast<ConfigPage*>(shown);
+    m_header->setVisible(container);
+    m_headerTitle->setText(shown->title());
+    const QString description = shown->description();
+    m_headerDescription->setText(description);
+    m_headerDescription->setVisible(!description.isEmpty() && description != shown->title());
+    m_emptyHint->setVisible(hasNoVisibleFrames(shown));
+    m_helpView->setHtml(shown->helpText());
+}
+
+void MainWindow::onPageModified()
+{
+    m_pagesPristine = false;
+    setWindowModified(true);
+}
+
+void MainWindow::onPlatformChanged()
+{
+    {
+        const QSignalBlocker comboBlocker(m_titlePage->platformCombo());
+        m_titlePage->platformCombo()->setCurrentIndex(Platform::instance()->target());
+        const QSignalBlocker checkBlocker(m_standaloneCheck);
+        m_standaloneCheck->setChecked(Platform::isStandalone());
+    }
+    // Applying configures the machine the wizard runs on, which a standalone one is not.
+    m_summaryPage->applyButton()->setVisible(!Platform::isStandalone());
+    if (m_current == SummaryPage)
+        m_summaryPage->updateSummary();
+    refreshPageFrame();
+}
+
+void MainWindow::preparePagesForDocument()
+{
+    if (!m_pagesPristine)
+        buildContainerPages();
+    m_document->loadPages();
+    m_pagesPristine = false;
+    setWindowModified(false);
+    updateWindowTitle();
+    showPage(m_current);
+}
+
+bool MainWindow::newDocument()
+{
+    if (!maybeSave())
+        return false;
+    m_document->newDocument();
+    preparePagesForDocument();
+    statusBar()->showMessage(tr("New configuration"), StatusTimeoutMs);
+    return true;
+}
+
+bool MainWindow::open()
+{
+    if (!maybeSave())
+        return false;
+    const QString path = m_fileChooser->openFileName(this, startDirectory());
+    if (path.isEmpty())
+        return false;
+    return openFile(path);
+}
+
+bool MainWindow::openFile(const QString& path)
+{
+    QString reason;
+    if (!m_document->load(path, &reason)) {
+        QMessageBox::warning(this, tr("Zelkon"),
+                             tr("The file \"%1\" cannot be opened.\n\n%2").arg(nativePath(path), reason));
+        return false;
+    }
+    preparePagesForDocument();
+    statusBar()->showMessage(tr("Opened %1").arg(nativePath(path)), StatusTimeoutMs);
+    return true;
+}
+
+bool MainWindow::save()
+{
+    if (m_document->filePath().isEmpty())
+        return saveAs();
+    return saveTo(m_document->filePath());
+}
+
+bool MainWindow::saveAs()
+{
+    const QString path = m_fileChooser->saveFileName(this, startDirectory());
+    if (path.isEmpty())
+        return false;
+    return saveTo(path);
+}
+
+bool MainWindow::saveTo(const QString& path)
+{
+    QString reason;
+    if (!m_document->save(path, &reason)) {
+        QMessageBox::critical(
+            this, tr("Zelkon"),
+            tr("The configuration could not be saved to \"%1\".\n\n%2").arg(nativePath(path), reason));
+        return false;
+    }
+    setWindowModified(false);
+    updateWindowTitle();
+    statusBar()->showMessage(tr("Saved %1").arg(nativePath(path)), StatusTimeoutMs);
+    return true;
+}
+
+bool MainWindow::applyToDevice()
+{
+    if (Platform::isStandalone())
+        return false;
+    QString reason;
+    if (!m_document->apply(&reason)) {
+        QMessageBox::critical(this, tr("Zelkon"),
+                              tr("The configuration could not be applied to this Thin Client.\n\n%1").arg(reason));
+        return false;
+    }
+    statusBar()->showMessage(tr("The configuration was handed to the Thin Client's settings tool."), StatusTimeoutMs);
+    return true;
+}
+
+bool MainWindow::maybeSave()
+{
+    if (!isWindowModified())
+        return true;
+    const QString name
+        = m_document->filePath().isEmpty() ? tr("Untitled") : QFileInfo(m_document->filePath()).fileName();
+    const QMessageBox::StandardButton answer = QMessageBox::warning(
+        this, tr("Zelkon"), tr("The configuration \"%1\" has unsaved changes.\nDo you want to save them?").arg(name),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    switch (answer) {
+    case QMessageBox::Save:
+        return save();
+    case QMessageBox::Discard:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (maybeSave())
+        event->accept();
+    else
+        event->ignore();
+}
+
+void MainWindow::updateWindowTitle()
+{
+    const QString name
+        = m_document->filePath().isEmpty() ? tr("Untitled") : QFileInfo(m_document->filePath()).fileName();
+    setWindowTitle(tr("%1[*] - Zelkon").arg(name));
+}
+
+QString MainWindow::startDirectory() const
+{
+    if (!m_document->filePath().isEmpty())
+        return QFileInfo(m_document->filePath()).absolutePath();
+    return QDir::currentPath();
+}
