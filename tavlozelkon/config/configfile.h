@@ -2,12 +2,14 @@
 
 #include "tavlozelkon_lib_export.h"
 
+#include <QCoreApplication>
 #include <QDomDocument>
 #include <QMap>
 #include <QString>
 #include <QXmlSchema>
 #include <memory>
 
+class AttributeOrder;
 class MessageHandler;
 
 /*
@@ -23,6 +25,8 @@ class MessageHandler;
  */
 class TAVLOZELKON_LIB_EXPORT ConfigFile : public QDomDocument
 {
+    Q_DECLARE_TR_FUNCTIONS(ConfigFile)
+
 public:
     ConfigFile();
     ~ConfigFile();
@@ -101,4 +105,6 @@ private:
     std::unique_ptr<MessageHandler> m_messageHandler;
     QMap<QString, QString> m_sectionAliases;
     QString m_fileName;
+    // Kept so that saving writes attributes in a stable order (see AttributeOrder).
+    std::unique_ptr<AttributeOrder> m_attributeOrder;
 };

@@ -1,0 +1,471 @@
+#include "configfile.h"
+
+#include "attributeorder.h"
+#include "connections/model/connectionmodel.h"
+#include "device/externaltool.h"
+#include "domwriter.h"
+#include "messagehandler.h"
+#include "platform.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QFile>
+#include <QMessageBox>
+#include <QSaveFile>
+#include <QTextStream>
+#include <QUrl>
+#include <QXmlSchemaValidator>
+
+namespace {
+const QString RootName = QStringLiteral("zelkon");
+// The settings tool always works on this file in the current directory.
+const QString DeviceSettingsFile = QStringLiteral("default.tavlocfg");
+} // namespace
+
+ConfigFile::ConfigFile()
+    : m_messageHandler(std::make_unique<MessageHandler>())
+    , m_attributeOrder(std::make_unique<AttributeOrder>())
+{
+    m_schema.setMessageHandler(m_messageHandler.get());
+    m_currentNode = *this;
+    addXmlVersion();
+    addRootNode();
+    loadSchema();
+    createSectionAliasList();
+}
+
+ConfigFile::~ConfigFile() = default;
+
+void ConfigFile::addXmlVersion()
+{
+    // Qt writes this node as the declaration line of the file.
+    appendChild(createProcessingInstruction(QStringLiteral("xml version=\"1.0\" encoding=\"utf-8\""), QString()));
+}
+
+void ConfigFile::addRootNode()
+{
+    QDomElement root = createElement(RootName);
+    root.setAttribute(QStringLiteral("version"), QStringLiteral("1.0"));
+    root.setAttribute(QStringLiteral("creator"), QStringLiteral("zelkon"));
+    root.setAttribute(QStringLiteral("creator_version"), QStringLiteral("2.0"));
+    appendChild(root);
+    m_currentNode = root;
+}
+
+// Navigation
+
+bool ConfigFile::findNode(QString name, int index)
+{
+    if (!m_currentNode.isElement() || index < 0)
+        return false;
+    const QDomNodeList matches = m_currentNode.toElement().elementsByTagName(name);
+    if (index >= matches.count())
+        return false;
+    m_currentNode = matches.at(index);
+    return true;
+}
+
+QDomNode ConfigFile::findNode(const QString& name, const QDomNode& start) const
+{
+    for (QDomNode node = start; !node.isNull(); node = node.nextSibling()) {
+        if (node.isElement() && node.toElement().tagName() == name)
+            return node;
+    }
+    return QDomNode();
+}
+
+int ConfigFile::addNode(QString name)
+{
+    if (!m_currentNode.isElement())
+        return -1;
+    const int count = m_currentNode.toElement().elementsByTagName(name).count();
+    const QDomElement element = createElement(name);
+    m_currentNode.appendChild(element);
+    m_currentNode = element;
+    return count;
+}
+
+bool ConfigFile::leaveNode()
+{
+    if (m_currentNode.isNull())
+        return false;
+    const QDomNode parent = m_currentNode.parentNode();
+    if (parent.isNull() || !parent.isElement())
+        return false;
+    m_currentNode = parent;
+    return true;
+}
+
+bool ConfigFile::removeNode(QString name, int index)
+{
+    if (!findNode(name, index))
+        return false;
+    QDomNode parent = m_currentNode.parentNode();
+    parent.removeChild(m_currentNode);
+    m_currentNode = parent;
+    return true;
+}
+
+void ConfigFile::removeValue(QString key)
+{
+    removeNode(key, 0);
+}
+
+int ConfigFile::nodeCount()
+{
+    return m_currentNode.childNodes().count();
+}
+
+int ConfigFile::namedNodeCount(QString name)
+{
+    if (!m_currentNode.isElement())
+        return 0;
+    return m_currentNode.toElement().elementsByTagName(name).count();
+}
+
+void ConfigFile::setCurrentNodeAsRoot()
+{
+    m_currentNode = findNode(RootName, firstChild());
+}
+
+QString ConfigFile::currentNodePath()
+{
+    QStringList names;
+    for (QDomNode node = m_currentNode; !node.isNull() && !node.isDocument(); node = node.parentNode())
+        names.prepend(node.nodeName());
+    return names.join(QLatin1Char('/'));
+}
+
+// Values
+
+QString ConfigFile::value(const QString& key)
+{
+    if (!findNode(key, 0))
+        return QString();
+    const QString text = getTextValue();
+    leaveNode();
+    return text;
+}
+
+int ConfigFile::intValue(const QString& key)
+{
+    return value(key).toInt(nullptr, 10);
+}
+
+bool ConfigFile::boolValue(const QString& key)
+{
+    const QString text = value(key);
+    if (text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0)
+        return true;
+    // Files of this format have always read a stored "0" as true; frames rely on it.
+    return text == QLatin1String("0");
+}
+
+void ConfigFile::setValue(QString key, QString text)
+{
+    if (findNode(key, 0)) {
+        // An element read back as <key/> has no text node, and then the value stays empty.
+        changeTextNode(text);
+        leaveNode();
+    } else {
+        createTextNode(key, text);
+        leaveNode();
+    }
+}
+
+void ConfigFile::setIntValue(QString key, int n)
+{
+    setValue(key, QString::number(n, 10));
+}
+
+void ConfigFile::setBoolValue(QString key, bool b)
+{
+    setValue(key, b ? QStringLiteral("true") : QStringLiteral("false"));
+}
+
+void ConfigFile::createTextNode(QString key, QString text)
+{
+    if (addNode(key) < 0)
+        return;
+    m_currentNode.appendChild(QDomDocument::createTextNode(text));
+}
+
+// Text and attributes of the cursor element
+
+QDomText ConfigFile::getTextNode()
+{
+    const QDomNode child = m_currentNode.firstChild();
+    return child.isText() ? child.toText() : QDomText();
+}
+
+QString ConfigFile::getTextValue()
+{
+    const QDomText text = getTextNode();
+    return text.isNull() ? QString() : text.data();
+}
+
+void ConfigFile::changeTextNode(QString text)
+{
+    QDomText node = getTextNode();
+    if (!node.isNull())
+        node.setData(text);
+}
+
+bool ConfigFile::hasAttribute(QString name) const
+{
+    return m_currentNode.isElement() && m_currentNode.toElement().hasAttribute(name);
+}
+
+QString ConfigFile::attribute(QString name) const
+{
+    if (!m_currentNode.isElement())
+        return QStringLiteral("");
+    return m_currentNode.toElement().attribute(name);
+}
+
+void ConfigFile::setAttributeValue(QString name, QString value)
+{
+    if (m_currentNode.isElement())
+        m_currentNode.toElement().setAttribute(name, value);
+}
+
+// Whole document
+
+void ConfigFile::clear()
+{
+    m_currentNode = documentElement();
+    while (!m_currentNode.firstChild().isNull())
+        m_currentNode.removeChild(m_currentNode.firstChild());
+}
+
+QString ConfigFile::toString()
+{
+    return DomWriter(m_attributeOrder.get()).toString(*this, 1);
+}
+
+void ConfigFile::sortNodes()
+{
+    QDomElement root = documentElement();
+    if (root.isNull())
+        return;
+    // A stable bubble sort on the sibling list, so records of one name keep their order.
+    bool exchanged = true;
+    while (exchanged) {
+        exchanged = false;
+        QDomNode current = root.firstChild();
+        while (!current.isNull() && !current.nextSibling().isNull()) {
+            QDomNode next = current.nextSibling();
+            if (QString::compare(current.nodeName(), next.nodeName(), Qt::CaseSensitive) > 0) {
+                root.removeChild(next);
+                root.insertBefore(next, current);
+                exchanged = true;
+            }
+            current = current.nextSibling();
+        }
+    }
+}
+
+// Files
+
+bool ConfigFile::load(QString path)
+{
+    if ((Platform::isCe() || Platform::isWes()) && !Platform::isStandalone())
+        createDefaultConfigFile();
+
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return false;
+    const QByteArray content = file.readAll();
+    file.close();
+    if (setContent(content, true)) {
+        m_attributeOrder->record(*this, content);
+    } else {
+        // Qt keeps what it parsed up to the error; half a configuration is worse than none.
+        QDomNode::clear();
+        m_attributeOrder->clear();
+    }
+    m_currentNode = documentElement();
+    return true;
+}
+
+bool ConfigFile::save(const QString& path)
+{
+    m_fileName = path;
+    // Written beside the old file and renamed over it only when complete, so a failed
+    // save never costs the user the file they had.
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    QTextStream stream(&file);
+    DomWriter(m_attributeOrder.get()).save(*this, stream, 1);
+    if (stream.status() != QTextStream::Ok) {
+        file.cancelWriting();
+        return false;
+    }
+    return file.commit();
+}
+
+void ConfigFile::setfilename(QString name)
+{
+    if (!name.trimmed().isEmpty())
+        m_fileName = name;
+}
+
+QString ConfigFile::getfilename()
+{
+    return m_fileName;
+}
+
+void ConfigFile::createDefaultConfigFile()
+{
+    // The tool writes the device's current settings; whether it managed to is not ours to judge.
+    ExternalTool::run(
+        QStringLiteral("tavlosettings"),
+        { QStringLiteral("-settings"), DeviceSettingsFile, QStringLiteral("-get"), QStringLiteral("all") });
+}
+
+void ConfigFile::apply(const QString& path)
+{
+    save(path);
+    // The tool is always handed the device file, whatever path was saved; the summary page
+    // applies by saving under exactly that name.
+    ExternalTool::run(
+        QStringLiteral("tavlosettings"),
+        { QStringLiteral("-settings"), DeviceSettingsFile, QStringLiteral("-set"), QStringLiteral("all") });
+}
+
+// Validation
+
+void ConfigFile::loadSchema()
+{
+    // No schema ships with the wizard; a host that has one passes it to setSchema().
+}
+
+bool ConfigFile::setSchema(const QByteArray& schemaData)
+{
+    return m_schema.load(schemaData) && m_schema.isValid();
+}
+
+bool ConfigFile::validate()
+{
+    if (!m_schema.isValid())
+        return false;
+
+    const QByteArray data = toString().toUtf8();
+    QXmlSchemaValidator validator(m_schema);
+    validator.setMessageHandler(m_messageHandler.get());
+    if (validator.validate(data, QUrl())) {
+        const QString text = tr("The configuration file is valid.");
+        qDebug().noquote() << text;
+        QMessageBox::information(nullptr, tr("Validation"), text, QMessageBox::Ok);
+        m_valid = true;
+    } else {
+        m_errorMessage = m_messageHandler->description();
+        const QString text = tr("The configuration file is invalid. ");
+        qDebug().noquote() << text + QLatin1Char('"') + m_errorMessage + QLatin1Char('"');
+        QMessageBox::information(nullptr, tr("Validation"), text + m_errorMessage, QMessageBox::Ok);
+        m_valid = false;
+    }
+    return m_valid;
+}
+
+// The HTML summary
+
+void ConfigFile::createSectionAliasList()
+{
+    m_sectionAliases.insert(QStringLiteral("time_zone"), tr("Time Zone"));
+    m_sectionAliases.insert(QStringLiteral("timezone"), tr("Time Zone"));
+    m_sectionAliases.insert(QStringLiteral("system_locale"), tr("Locale"));
+    m_sectionAliases.insert(QStringLiteral("corrand"), tr("Corrand"));
+    m_sectionAliases.insert(QStringLiteral("pellam"), tr("Pellam"));
+    m_sectionAliases.insert(QStringLiteral("color_depth"), tr("Color Depth"));
+    m_sectionAliases.insert(QStringLiteral("refresh_rate"), tr("Refresh Rate"));
+    m_sectionAliases.insert(QStringLiteral("multi_monitor_mode"), tr("Multi Monitor Mode"));
+    m_sectionAliases.insert(QStringLiteral("primary_monitor"), tr("Primary Monitor"));
+    m_sectionAliases.insert(QStringLiteral("screen_saver_delay"), tr("Screen Saver On"));
+    m_sectionAliases.insert(QStringLiteral("ssid"), tr("SSID"));
+    m_sectionAliases.insert(QStringLiteral("read_only"), tr("Read Only"));
+    m_sectionAliases.insert(QStringLiteral("cda"), tr("CDA"));
+    m_sectionAliases.insert(QStringLiteral("ica"), tr("ICA"));
+    m_sectionAliases.insert(QStringLiteral("rdp"), tr("RDP"));
+    m_sectionAliases.insert(QStringLiteral("vmware"), tr("VMware View"));
+    m_sectionAliases.insert(QStringLiteral("xenapp"), tr("XenApp"));
+    m_sectionAliases.insert(QStringLiteral("browser"), tr("Web Browser"));
+    m_sectionAliases.insert(QStringLiteral("general_settings"), tr("General Settings"));
+}
+
+QString ConfigFile::sectionAlias(const QString& name)
+{
+    const auto alias = m_sectionAliases.constFind(name);
+    if (alias != m_sectionAliases.constEnd())
+        return alias.value();
+    if (name.isEmpty())
+        return name;
+    return name.left(1).toUpper() + name.mid(1);
+}
+
+QString ConfigFile::toFormattedString()
+{
+    const QDomNode root = findNode(RootName, firstChild());
+    if (root.isNull())
+        return QString();
+    QString html;
+    for (QDomElement section = root.firstChildElement(); !section.isNull(); section = section.nextSiblingElement())
+        html += elementToString(section);
+    return html;
+}
+
+QString ConfigFile::elementToString(QDomElement& section)
+{
+    const QString tag = section.tagName();
+    // Empty sections are left out, except that a supported connection type is listed even
+    // without connections.
+    if (!section.hasChildNodes() && !ConnectionModel::sSupportedConnectionTypes().contains(tag, Qt::CaseSensitive))
+        return QString();
+
+    QString html = QLatin1String("<h3>") + sectionAlias(tag).toHtmlEscaped() + QLatin1String("</h3><table>");
+    for (QDomElement child = section.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        const QString childTag = child.tagName();
+        if (childTag == QLatin1String("session")) {
+            html += sessionToString(child);
+        } else if (childTag == QLatin1String("general_settings")) {
+            html += generalSettingsToString(child);
+        } else {
+            QString value = child.firstChild().nodeValue();
+            if (childTag == QLatin1String("passphrase") || childTag == QLatin1String("password"))
+                value = QStringLiteral("********");
+            html += QLatin1String("<tr><td width =\"50%\">") + sectionAlias(childTag).toHtmlEscaped()
+                + QLatin1String("</td><td>") + value.toHtmlEscaped() + QLatin1String("</td></tr>");
+        }
+    }
+    html += QLatin1String("</table>");
+    return html;
+}
+
+QString ConfigFile::sessionToString(QDomElement& element)
+{
+    // Records are shown as stored: a session's password is not masked.
+    QString html;
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        if (child.tagName() == QLatin1String("proxy")) {
+            html += proxySettingsToString(child);
+        } else {
+            html += QLatin1String("<tr><td width=\"10%\"/><td width =\"50%\">")
+                + sectionAlias(child.tagName()).toHtmlEscaped() + QLatin1String("</td><td>")
+                + child.text().toHtmlEscaped() + QLatin1String("</td></tr>");
+        }
+    }
+    html += QLatin1String("<tr/>");
+    return html;
+}
+
+QString ConfigFile::generalSettingsToString(QDomElement& element)
+{
+    return QLatin1String("<tr><td width=\"10%\"/><td width =\"50%\">General Settings</td></tr>")
+        + sessionToString(element);
+}
+
+QString ConfigFile::proxySettingsToString(QDomElement& element)
+{
+    return QLatin1String("<tr><td width=\"10%\"/><td width =\"50%\">Proxy</td></tr>") + sessionToString(element);
+}
