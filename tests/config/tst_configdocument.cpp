@@ -26,7 +26,6 @@ private slots:
     void intValue_data();
     void intValue();
     void setValueOnKeyWithoutTextChangesNothing();
-    void attributesAtCursor();
     void clearKeepsRootAndAttributes();
     void setCurrentNodeAsRoot();
     void sortNodes_data();
@@ -55,6 +54,7 @@ void ConfigDocumentTest::freshDocumentHasCursorOnRoot()
     QCOMPARE(config.attribute(QStringLiteral("version")), QStringLiteral("1.0"));
     QCOMPARE(config.attribute(QStringLiteral("creator")), QStringLiteral("zelkon"));
     QCOMPARE(config.attribute(QStringLiteral("creator_version")), QStringLiteral("2.0"));
+    QVERIFY(config.attribute(QStringLiteral("id")).isNull());
     QVERIFY(!config.isValid());
     QVERIFY(config.errorMessage().isEmpty());
     QVERIFY(config.getfilename().isEmpty());
@@ -296,18 +296,6 @@ void ConfigDocumentTest::setValueOnKeyWithoutTextChangesNothing()
     QVERIFY(config.getTextNode().isNull());
     config.changeTextNode(QStringLiteral("office"));
     QCOMPARE(config.nodeCount(), 0);
-}
-
-void ConfigDocumentTest::attributesAtCursor()
-{
-    ConfigFile config;
-    config.addNode(QStringLiteral("printer"));
-    QVERIFY(!config.hasAttribute(QStringLiteral("id")));
-    QVERIFY(config.attribute(QStringLiteral("id")).isNull());
-    config.setAttributeValue(QStringLiteral("id"), QStringLiteral("7"));
-    QVERIFY(config.hasAttribute(QStringLiteral("id")));
-    QCOMPARE(config.attribute(QStringLiteral("id")), QStringLiteral("7"));
-    QCOMPARE(config.currentNode().toElement().attribute(QStringLiteral("id")), QStringLiteral("7"));
 }
 
 void ConfigDocumentTest::clearKeepsRootAndAttributes()
