@@ -10,9 +10,15 @@ Accordion::Accordion(QWidget* parent)
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(4);
+    qRegisterMetaType<AccordionItem*>();
 }
 
-Accordion::~Accordion() = default;
+Accordion::~Accordion()
+{
+    // The items die with this widget; their destroyed() must not reach a half-destroyed list.
+    for (AccordionItem* item : qAsConst(m_items))
+        disconnect(item, nullptr, this, nullptr);
+}
 
 void Accordion::addItem(AccordionItem* item)
 {
