@@ -1,5 +1,6 @@
 #include "connectionmodel.h"
 
+#include "config/configfile.h"
 #include "configatom.h"
 #include "connectionkindred.h"
 #include "connectionsession.h"
@@ -9,7 +10,6 @@
 #include <QCoreApplication>
 #include <QTime>
 #include <QtGlobal>
-#include <cstdlib>
 
 namespace {
 
@@ -54,6 +54,108 @@ const ConnectionType* findConnectionType(const QString& key)
     return nullptr;
 }
 
+enum class ValueKind { Text, Bool, Int };
+
+struct Field
+{
+    const char* key;
+    ValueKind kind;
+};
+
+// How one type's section is laid out: the elements of each session in the order they are
+// written, and which settings groups the type has.
+struct SectionLayout
+{
+    QList<Field> sessionFields;
+    // A "proxy" element in every session, kept as the session's child atom "proxy".
+    bool sessionProxy = false;
+    // A type-wide "general_settings/proxy", kept as the kind's child atom "general_settings".
+    bool generalSettings = false;
+};
+
+const QList<Field>& proxyFields()
+{
+    static const QList<Field> fields {
+        { "enable", ValueKind::Bool },
+        { "address", ValueKind::Text },
+        { "port", ValueKind::Int },
+    };
+    return fields;
+}
+
+SectionLayout sectionLayout(const QString& key)
+{
+    SectionLayout layout;
+    if (key == QLatin1String("parlix")) {
+        layout.sessionFields = {
+            { "name", ValueKind::Text },    { "region", ValueKind::Text },    { "autostart", ValueKind::Bool },
+            { "address", ValueKind::Text }, { "emulation", ValueKind::Text }, { "local_port", ValueKind::Int },
+            { "port", ValueKind::Int },     { "transport", ValueKind::Text },
+        };
+    } else if (key == QLatin1String("browser")) {
+        layout.sessionFields = {
+            { "name", ValueKind::Text },
+            { "autostart", ValueKind::Bool },
+            { "url", ValueKind::Text },
+        };
+        layout.generalSettings = true;
+    } else {
+        layout.sessionFields = {
+            { "name", ValueKind::Text },
+            { "autostart", ValueKind::Bool },
+            { "address", ValueKind::Text },
+        };
+        layout.sessionProxy = key == QLatin1String("ica");
+    }
+    return layout;
+}
+
+// Reads the fields from the elements below the cursor, which must be their direct parent.
+void readFields(ConfigFile* config, ConfigAtom* atom, const QList<Field>& fields)
+{
+    for (const Field& field : fields) {
+        const QString key = QLatin1String(field.key);
+        switch (field.kind) {
+        case ValueKind::Text:
+            atom->setProperty(field.key, config->value(key));
+            break;
+        case ValueKind::Bool:
+            atom->setProperty(field.key, config->boolValue(key));
+            break;
+        case ValueKind::Int:
+            atom->setProperty(field.key, config->intValue(key));
+            break;
+        }
+    }
+}
+
+// Text fields take the variant's text, so a boolean stored in one is written as
+// "true"/"false". A missing atom writes the empty values.
+void writeFields(ConfigFile* config, const ConfigAtom* atom, const QList<Field>& fields, bool boolAsText)
+{
+    for (const Field& field : fields) {
+        const QString key = QLatin1String(field.key);
+        const QVariant value = atom ? atom->property(field.key) : QVariant();
+        if (field.kind == ValueKind::Int)
+            config->setIntValue(key, value.toInt());
+        else if (field.kind == ValueKind::Bool && !boolAsText)
+            config->setBoolValue(key, value.toBool());
+        else
+            config->setValue(key, value.toString());
+    }
+}
+
+// The child without creating it: saving must not change the model.
+const ConfigAtom* existingAtom(const ConfigAtom* parent, const QString& name)
+{
+    const QList<ConfigAtom*> children = parent->atoms();
+    for (const ConfigAtom* child : children) {
+        if (child->name() == name)
+            return child;
+    }
+    return nullptr;
+}
+
 QString translated(const char* text)
 {
     return QCoreApplication::translate("ConnectionModel", text);
@@ -69,9 +171,10 @@ ConnectionModel::ConnectionModel(QObject* parent)
 {
     const QTime now = QTime::currentTime();
     const uint seed = uint(now.msec() + 1000 * now.second() + 100000 * now.minute() + 10000000 * now.hour());
-    // qsrand() is compiled out together with the rest of Qt's deprecated API; the C
-    // library's generator is its nearest stand-in.
-    std::srand(seed);
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    qsrand(seed);
+    QT_WARNING_POP
 }
 
 ConnectionModel::~ConnectionModel()
@@ -144,6 +247,122 @@ void ConnectionModel::standaloneSetDirty(ConnectionKindred& kind)
 {
     if (Platform::isStandalone())
         kind.setDirty();
+}
+
+void ConnectionModel::loadConfig(ConfigFile* config)
+{
+    clear();
+    const QStringList keys = sSupportedConnectionTypes();
+    for (const QString& key : keys) {
+        config->setCurrentNodeAsRoot();
+        loadType(config, key);
+    }
+    config->setCurrentNodeAsRoot();
+    loadDesktop(config);
+    emit newConfigLoaded();
+}
+
+void ConnectionModel::loadType(ConfigFile* config, const QString& key)
+{
+    if (!config->findNode(key, 0))
+        return;
+    ConnectionKindred* kind = connections(key);
+    kind->disableDirtyFlag();
+    const SectionLayout layout = sectionLayout(key);
+    const QString proxy = QStringLiteral("proxy");
+
+    if (layout.generalSettings && config->findNode(QStringLiteral("general_settings"), 0)) {
+        if (config->findNode(proxy, 0)) {
+            readFields(config, kind->atom(QStringLiteral("general_settings")), proxyFields());
+            config->leaveNode();
+        }
+        config->leaveNode();
+    }
+
+    const QString sessionElement = QStringLiteral("session");
+    for (int index = 0; config->findNode(sessionElement, index); ++index) {
+        ConnectionSession& session = kind->session(config->attribute(QStringLiteral("id")));
+        readFields(config, &session, layout.sessionFields);
+        if (layout.sessionProxy && config->findNode(proxy, 0)) {
+            readFields(config, session.atom(proxy), proxyFields());
+            config->leaveNode();
+        }
+        config->leaveNode();
+    }
+
+    config->leaveNode();
+    // Marking is re-enabled on the whole subtree, which now includes the loaded sessions.
+    kind->enableDirtyFlag();
+    standaloneSetDirty(*kind);
+}
+
+void ConnectionModel::loadDesktop(ConfigFile* config)
+{
+    if (!config->findNode(QStringLiteral("desktop"), 0))
+        return;
+    m_desktop->disableDirtyFlag();
+    m_desktop->setProperty("kiosk_mode", config->boolValue(QStringLiteral("kiosk_mode")));
+    config->leaveNode();
+    m_desktop->enableDirtyFlag();
+    if (Platform::isStandalone())
+        m_desktop->setDirty();
+}
+
+void ConnectionModel::saveConfig(ConfigFile* config)
+{
+    const QStringList keys = sSupportedConnectionTypes();
+    for (const QString& key : keys) {
+        config->setCurrentNodeAsRoot();
+        // An unchanged type leaves no section behind: on a device the file carries only
+        // what the user changed.
+        config->removeNode(key, 0);
+        saveType(config, key);
+    }
+    saveDesktop(config);
+}
+
+void ConnectionModel::saveType(ConfigFile* config, const QString& key)
+{
+    const ConnectionKindred* kind = connections(key);
+    if (!kind->isDirty())
+        return;
+    const SectionLayout layout = sectionLayout(key);
+    const QString proxy = QStringLiteral("proxy");
+
+    config->addNode(key);
+    if (layout.generalSettings) {
+        config->addNode(QStringLiteral("general_settings"));
+        config->addNode(proxy);
+        writeFields(config, existingAtom(kind, QStringLiteral("general_settings")), proxyFields(), false);
+        config->leaveNode();
+        config->leaveNode();
+    }
+
+    const QList<ConnectionSession*> sessions = kind->sessions();
+    for (const ConnectionSession* session : sessions) {
+        config->addNode(QStringLiteral("session"));
+        config->setAttributeValue(QStringLiteral("id"), session->id());
+        writeFields(config, session, layout.sessionFields, true);
+        if (layout.sessionProxy) {
+            config->addNode(proxy);
+            writeFields(config, existingAtom(session, proxy), proxyFields(), false);
+            config->leaveNode();
+        }
+        config->leaveNode();
+    }
+    config->leaveNode();
+}
+
+void ConnectionModel::saveDesktop(ConfigFile* config)
+{
+    config->setCurrentNodeAsRoot();
+    // Unlike the type sections an earlier "desktop" element is not removed first, so a
+    // second one is appended; loading reads the first.
+    if (!m_desktop->isDirty())
+        return;
+    config->addNode(QStringLiteral("desktop"));
+    config->setBoolValue(QStringLiteral("kiosk_mode"), m_desktop->property("kiosk_mode").toBool());
+    config->leaveNode();
 }
 
 QString ConnectionModel::toDebugString() const

@@ -68,15 +68,9 @@ signals:
     void newConfigLoaded();
 
 private:
-    void loadDefaultType(ConfigFile* config, const QString& key);
-    void loadIca(ConfigFile* config);
-    void loadParlix(ConfigFile* config);
-    void loadBrowser(ConfigFile* config);
+    void loadType(ConfigFile* config, const QString& key);
+    void saveType(ConfigFile* config, const QString& key);
     void loadDesktop(ConfigFile* config);
-    void saveDefaultType(ConfigFile* config, const QString& key);
-    void saveIca(ConfigFile* config);
-    void saveParlix(ConfigFile* config);
-    void saveBrowser(ConfigFile* config);
     void saveDesktop(ConfigFile* config);
 
     QMap<QString, ConnectionKindred*> m_connections;
