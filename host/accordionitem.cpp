@@ -13,7 +13,13 @@ AccordionItem::AccordionItem(ControlFrame* content, QWidget* parent)
 {
     m_header->setObjectName(QStringLiteral("AccordionHeader"));
     m_header->setCheckable(true);
-    m_header->setAutoRaise(true);
+    m_header->setAutoRaise(false);
+    m_header->setStyleSheet(QStringLiteral(
+        "QToolButton#AccordionHeader { text-align: left; padding: 6px 8px; border: 1px solid palette(mid);"
+        " border-radius: 4px; background: palette(button); }"
+        "QToolButton#AccordionHeader:hover { background: palette(light); }"
+        "QToolButton#AccordionHeader:checked { background: palette(highlight); color: palette(highlighted-text); }"
+        "QToolButton#AccordionHeader:focus { border: 1px solid palette(highlight); }"));
     m_header->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_header->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_header->setIconSize(QSize(24, 24));
@@ -28,6 +34,7 @@ AccordionItem::AccordionItem(ControlFrame* content, QWidget* parent)
     layout->addWidget(m_header);
     if (m_content) {
         m_content->setParent(this);
+        m_content->setContentsMargins(12, 4, 4, 8);
         layout->addWidget(m_content);
         m_content->setVisible(false);
     }

@@ -21,6 +21,15 @@ void ZelkonTitlePage::setup()
     m_bodyLabel = new QLabel(this);
     m_bodyLabel->setObjectName(QStringLiteral("Body"));
     m_bodyLabel->setWordWrap(true);
+    m_titleLabel->setAlignment(Qt::AlignCenter);
+    m_bodyLabel->setAlignment(Qt::AlignCenter);
+    QFont titleFont = m_titleLabel->font();
+    titleFont.setPointSizeF(titleFont.pointSizeF() * 2.5);
+    titleFont.setBold(true);
+    m_titleLabel->setFont(titleFont);
+    QFont bodyFont = m_bodyLabel->font();
+    bodyFont.setPointSizeF(bodyFont.pointSizeF() * 1.2);
+    m_bodyLabel->setFont(bodyFont);
 
     auto* layout = new QVBoxLayout(this);
     layout->addStretch();
