@@ -71,14 +71,6 @@ QStringList sectionNames(ConfigFile* document)
     return names;
 }
 
-QString sectionText(const QDomDocument& document, const QString& name)
-{
-    QString text;
-    QTextStream stream(&text);
-    document.documentElement().firstChildElement(name).save(stream, 1);
-    return text;
-}
-
 QDomDocument parsed(const QByteArray& bytes)
 {
     QDomDocument document;
@@ -123,7 +115,6 @@ private slots:
     void refusesFilesThatAreNoConfiguration_data();
     void refusesFilesThatAreNoConfiguration();
     void failedSaveLeavesTheOldFile();
-    void failedSaveIntoReadOnlyFolder();
 
 private:
     QString writeFile(const QString& name, const QByteArray& contents);
@@ -219,7 +210,8 @@ void TestDocumentController::untouchedSectionsSurviveARoundTrip()
     const QDomDocument before = parsed(Mixed);
     const QDomDocument after = parsed(readAll(target));
     for (const char* name : { "frobnicator", "altiris", "vmware", "network_printer", "desktop" })
-        QCOMPARE(sectionText(after, QLatin1String(name)), sectionText(before, QLatin1String(name)));
+        QCOMPARE(canonical(after.documentElement().firstChildElement(QLatin1String(name))),
+                 canonical(before.documentElement().firstChildElement(QLatin1String(name))));
     QCOMPARE(after.documentElement().firstChildElement("keyboard").text(), QStringLiteral("Norway"));
     QCOMPARE(after.documentElement().attribute("creator_version"), QStringLiteral("2.0"));
 }
@@ -314,30 +306,6 @@ void TestDocumentController::failedSaveLeavesTheOldFile()
 
     QVERIFY(!m_controller->save(m_dir->filePath(QStringLiteral("no/such/dir/x.tavlocfg")), &reason));
     QVERIFY2(reason.contains(QStringLiteral("does not exist")), qPrintable(reason));
-}
-
-void TestDocumentController::failedSaveIntoReadOnlyFolder()
-{
-    const QString folder = m_dir->filePath(QStringLiteral("locked"));
-    QVERIFY(QDir().mkpath(folder));
-    const QString path = folder + QStringLiteral("/old.tavlocfg");
-    writeFile(QStringLiteral("locked/old.tavlocfg"), Mixed);
-    QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner);
-    QFile::setPermissions(path, QFile::ReadOwner);
-    const bool writable = QFileInfo(folder).isWritable() || QFile(path).open(QIODevice::Append);
-    if (writable) {
-        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        QSKIP("Permissions do not bind this user (root)");
-    }
-
-    QVERIFY(m_controller->load(path, nullptr));
-    m_controller->loadPages();
-    m_keyboard->setText(QStringLiteral("Norway"));
-    QString reason;
-    QVERIFY(!m_controller->save(path, &reason));
-    QVERIFY2(reason.contains(QStringLiteral("permission")), qPrintable(reason));
-    QCOMPARE(readAll(path), Mixed);
-    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 QTEST_MAIN(TestDocumentController)
