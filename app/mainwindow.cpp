@@ -284,11 +284,39 @@ void MainWindow::createPages()
         m_stack->addWidget(area);
         m_pageList->addItem(QString());
     }
-    m_pageAreas.at(TitlePage)->setWidget(m_titlePage);
+    m_pageAreas.at(TitlePage)->setWidget(createTitleArea());
     m_pageAreas.at(SummaryPage)->setWidget(m_summaryPage);
     connectPage(m_titlePage);
     connectPage(m_summaryPage);
     buildContainerPages();
+}
+
+// The title page asks for loading and saving through its signals; these are its buttons.
+QWidget* MainWindow::createTitleArea()
+{
+    QStyle* style = QApplication::style();
+    auto* openButton = new QPushButton(style->standardIcon(QStyle::SP_DialogOpenButton), tr("Open a Configuration..."));
+    openButton->setObjectName(QStringLiteral("TitleOpenButton"));
+    connect(openButton, &QPushButton::clicked, m_titlePage, &ZelkonTitlePage::loadConfig);
+    auto* saveButton = new QPushButton(style->standardIcon(QStyle::SP_DialogSaveButton), tr("Save the Configuration"));
+    saveButton->setObjectName(QStringLiteral("TitleSaveButton"));
+    connect(saveButton, &QPushButton::clicked, m_titlePage, &ZelkonTitlePage::saveConfig);
+    m_currentFileLabel = new QLabel;
+    m_currentFileLabel->setObjectName(QStringLiteral("CurrentFile"));
+    m_currentFileLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(openButton);
+    buttons->addWidget(saveButton);
+    buttons->addStretch();
+    auto* area = new QWidget;
+    auto* layout = new QVBoxLayout(area);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_titlePage, 1);
+    layout->addWidget(m_currentFileLabel);
+    layout->addLayout(buttons);
+    layout->addSpacing(24);
+    return area;
 }
 
 void MainWindow::buildContainerPages()
@@ -509,6 +537,9 @@ void MainWindow::updateWindowTitle()
     const QString name
         = m_document->filePath().isEmpty() ? tr("Untitled") : QFileInfo(m_document->filePath()).fileName();
     setWindowTitle(tr("%1[*] - Zelkon").arg(name));
+    m_currentFileLabel->setText(m_document->filePath().isEmpty()
+                                    ? tr("Configuration: a new one, not saved yet.")
+                                    : tr("Configuration: %1").arg(nativePath(m_document->filePath())));
 }
 
 QString MainWindow::startDirectory() const

@@ -84,6 +84,7 @@ private:
     void createActions();
     void createWidgets();
     void createPages();
+    QWidget* createTitleArea();
     void buildContainerPages();
     void preparePagesForDocument();
     void connectPage(WizardPage* page);
@@ -110,6 +111,7 @@ private:
     QLabel* m_headerTitle = nullptr;
     QLabel* m_headerDescription = nullptr;
     QLabel* m_emptyHint = nullptr;
+    QLabel* m_currentFileLabel = nullptr;
     QStackedWidget* m_stack = nullptr;
     QTextBrowser* m_helpView = nullptr;
     QHBoxLayout* m_buttonRow = nullptr;
