@@ -37,6 +37,7 @@
 #include <QTextBrowser>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace {
 const int StatusTimeoutMs = 5000;
