@@ -458,7 +458,7 @@ bool MainWindow::openFile(const QString& path)
         return false;
     }
     preparePagesForDocument();
-    statusBar()->showMessage(tr("Opened %1").arg(nativePath(path)), StatusTimeoutMs);
+    statusBar()->showMessage(tr("Opened %1").arg(QFileInfo(path).fileName()), StatusTimeoutMs);
     return true;
 }
 
@@ -488,7 +488,7 @@ bool MainWindow::saveTo(const QString& path)
     }
     setWindowModified(false);
     updateWindowTitle();
-    statusBar()->showMessage(tr("Saved %1").arg(nativePath(path)), StatusTimeoutMs);
+    statusBar()->showMessage(tr("Saved %1").arg(QFileInfo(path).fileName()), StatusTimeoutMs);
     return true;
 }
 
@@ -538,9 +538,10 @@ void MainWindow::updateWindowTitle()
     const QString name
         = m_document->filePath().isEmpty() ? tr("Untitled") : QFileInfo(m_document->filePath()).fileName();
     setWindowTitle(tr("%1[*] - Zelkon").arg(name));
-    m_currentFileLabel->setText(m_document->filePath().isEmpty()
-                                    ? tr("Configuration: a new one, not saved yet.")
-                                    : tr("Configuration: %1").arg(nativePath(m_document->filePath())));
+    // The name is what a user recognises; the whole path is a hover away.
+    m_currentFileLabel->setText(m_document->filePath().isEmpty() ? tr("Configuration: a new one, not saved yet.")
+                                                                 : tr("Configuration: %1").arg(name));
+    m_currentFileLabel->setToolTip(m_document->filePath().isEmpty() ? QString() : nativePath(m_document->filePath()));
 }
 
 QString MainWindow::startDirectory() const

@@ -37,7 +37,7 @@ void ZelkonSummaryPage::setup()
     auto* layout = new QVBoxLayout(this);
     layout->addStretch();
     layout->addWidget(m_titleLabel);
-    layout->addWidget(m_summaryView);
+    layout->addWidget(m_summaryView, 1);
     layout->addWidget(m_applyButton);
     layout->addStretch();
 

@@ -1,6 +1,6 @@
 #include "config/configfile.h"
 #include "pages/zelkonregionalpage.h"
-#include "testframes.h"
+#include "sectionframe.h"
 
 #include "accordion.h"
 #include "accordionitem.h"
@@ -16,15 +16,15 @@ class TestPage : public ZelkonRegionalPage
 public:
     TestPage()
     {
-        first = new TextFrame(QStringLiteral("first"));
-        second = new TextFrame(QStringLiteral("second"));
+        first = new SectionFrame(QStringLiteral("first"));
+        second = new SectionFrame(QStringLiteral("second"));
         firstItem = addFrame(first);
         accordion()->addItem(new AccordionItem(new ControlFrame, nullptr));
         secondItem = addFrame(second);
     }
 
-    TextFrame* first;
-    TextFrame* second;
+    SectionFrame* first;
+    SectionFrame* second;
     AccordionItem* firstItem;
     AccordionItem* secondItem;
 };
@@ -124,7 +124,7 @@ private slots:
         QCOMPARE(page.helpText(), BaseHelp);
 
         page.accordion()->selectItem(page.secondItem);
-        QCOMPARE(page.helpText(), BaseHelp + QStringLiteral("<br><i>second</i>"));
+        QCOMPARE(page.helpText(), BaseHelp + QStringLiteral("<br><i>Help of second</i>"));
         QCOMPARE(help.count(), 1);
         QCOMPARE(help.at(0).at(0).toString(), page.helpText());
 

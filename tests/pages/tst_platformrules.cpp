@@ -4,7 +4,7 @@
 #include "pages/zelkonmanagementpage.h"
 #include "pages/zelkonperipheralpage.h"
 #include "pages/zelkonsummarypage.h"
-#include "testframes.h"
+#include "sectionframe.h"
 
 #include "accordion.h"
 #include "accordionitem.h"
@@ -22,7 +22,7 @@ public:
     TestManagementPage()
     {
         for (Tool tool : { Tool::Corrand, Tool::Pellam, Tool::AutoUpdate, Tool::RemoteAssistance })
-            addToolFrame(tool, new TextFrame(QStringLiteral("tool")));
+            addToolFrame(tool, new SectionFrame(QStringLiteral("tool")));
         updatePlatformOptions();
     }
 };
@@ -32,8 +32,8 @@ class TestPeripheralPage : public ZelkonPeripheralPage
 public:
     TestPeripheralPage()
     {
-        addPeripheralFrame(Peripheral::Display, new TextFrame(QStringLiteral("display")));
-        addPeripheralFrame(Peripheral::Wireless, new TextFrame(QStringLiteral("wireless")));
+        addPeripheralFrame(Peripheral::Display, new SectionFrame(QStringLiteral("display")));
+        addPeripheralFrame(Peripheral::Wireless, new SectionFrame(QStringLiteral("wireless")));
         updatePlatformOptions();
     }
 };
@@ -41,7 +41,7 @@ public:
 class TestConnectionsPage : public ZelkonConnectionsPage
 {
 public:
-    TestConnectionsPage() { frameItem = setFrame(new TextFrame(QStringLiteral("connections"))); }
+    TestConnectionsPage() { frameItem = setFrame(new SectionFrame(QStringLiteral("connections"))); }
     AccordionItem* frameItem;
 };
 
@@ -172,7 +172,7 @@ private slots:
         TestConnectionsPage page;
         // The one frame is open from the start.
         QCOMPARE(page.accordion()->selectedItem(), page.frameItem);
-        QCOMPARE(page.helpText(), ConnectionsBase + sentence + QStringLiteral("<br><i>connections</i>"));
+        QCOMPARE(page.helpText(), ConnectionsBase + sentence + QStringLiteral("<br><i>Help of connections</i>"));
         QCOMPARE(page.title(), QStringLiteral("Connections"));
         QVERIFY(page.description().isEmpty());
     }

@@ -4,40 +4,39 @@
 #include "pages/configframe.h"
 
 /*
- * A settings frame with one text value, as the real frames have: it loads and saves the
- * section it was given with the shared load/save pattern, and a change of its value goes
- * through setDirty() as a widget's change would.
+ * A settings frame holding one value of one section, as the real frames do: it loads and
+ * saves with the shared pattern, and setText() is what a widget's change signal does.
  */
-class TextFrame : public ConfigFrame
+class SectionFrame : public ConfigFrame
 {
 public:
-    explicit TextFrame(const QString& section, QWidget* parent = nullptr)
+    explicit SectionFrame(const QString& section, const QString& key = QStringLiteral("text"),
+                          QWidget* parent = nullptr)
         : ConfigFrame(parent)
         , m_section(section)
+        , m_key(key)
     {
     }
 
     QString title() const override { return m_section; }
-    QString helpText() const override { return QStringLiteral("<i>%1</i>").arg(m_section); }
+    QString helpText() const override { return QStringLiteral("<i>Help of %1</i>").arg(m_section); }
 
     void loadConfig(ConfigFile* config) override
     {
         ++loads;
         cursorAtLoad = config->currentNodePath();
-        if (!enterSectionForLoad(config, m_section))
-            return;
-        setText(config->value(QStringLiteral("text")));
+        if (enterSectionForLoad(config, m_section))
+            setText(config->value(m_key));
     }
 
     void saveConfig(ConfigFile* config) override
     {
         if (!enterSectionForSave(config, m_section))
             return;
-        config->setValue(QStringLiteral("text"), m_text);
+        config->setValue(m_key, m_text);
         leaveSection(config);
     }
 
-    // What a widget's change signal does.
     void setText(const QString& text)
     {
         m_text = text;
@@ -45,10 +44,12 @@ public:
     }
     QString text() const { return m_text; }
 
+    // Where the page left the document's cursor for the last load, and how often it loaded.
     int loads = 0;
     QString cursorAtLoad;
 
 private:
     QString m_section;
+    QString m_key;
     QString m_text;
 };
