@@ -8,26 +8,10 @@ set -eu
 
 cd "$(dirname "$0")/.."
 
-if [ "$(id -u)" -eq 0 ]; then
-    SUDO=
-else
-    SUDO=sudo
-fi
-
-packages="cmake g++ make qtbase5-dev libqt5xmlpatterns5-dev libqt5svg5-dev qttools5-dev"
 if [ -z "${DISPLAY:-}" ]; then
-    packages="$packages xvfb xauth"
-fi
-
-missing=
-for package in $packages; do
-    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" || missing="$missing $package"
-done
-if [ -n "$missing" ]; then
-    echo "Installing build dependencies:$missing"
-    $SUDO apt-get update
-    # shellcheck disable=SC2086
-    $SUDO apt-get install -y --no-install-recommends $missing
+    sh scripts/install-build-deps.sh xvfb xauth
+else
+    sh scripts/install-build-deps.sh
 fi
 
 cmake -S . -B build -DCMAKE_BUILD_TYPE=Release -DZELKON_BUILD_TESTS=OFF
