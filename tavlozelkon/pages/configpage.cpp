@@ -64,16 +64,15 @@ void ConfigPage::createAccordion()
     connect(m_accordion, &Accordion::helpChanged, this, &ConfigPage::onHelpChanged);
 }
 
-void ConfigPage::beginStretchedLayout()
+void ConfigPage::setupAccordion(const std::function<void()>& createItems)
 {
+    createAccordion();
     auto* layout = new QVBoxLayout(this);
     layout->addStretch();
     layout->addWidget(m_accordion);
-}
-
-void ConfigPage::endStretchedLayout()
-{
-    static_cast<QVBoxLayout*>(layout())->addStretch();
+    createItems();
+    layout->addStretch();
+    retranslateUi();
 }
 
 AccordionItem* ConfigPage::addFrame(ConfigFrame* frame)

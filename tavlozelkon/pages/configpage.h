@@ -4,6 +4,8 @@
 
 #include "wizardpage.h"
 
+#include <functional>
+
 class Accordion;
 class AccordionItem;
 class ConfigFile;
@@ -44,10 +46,11 @@ protected:
     // The page's own part of the help, before the open frame's.
     virtual QString baseHelpText() const = 0;
 
-    // The accordion and its layout; container pages call these from their setup().
+    // The layout the container pages share: the accordion between two stretches, filled
+    // by createItems, then the page's texts.
+    void setupAccordion(const std::function<void()>& createItems);
+    // Just the accordion, for a page that lays itself out.
     void createAccordion();
-    void beginStretchedLayout();
-    void endStretchedLayout();
     // Wraps frame in an accordion item, forwards its changes and appends it.
     AccordionItem* addFrame(ConfigFrame* frame);
 

@@ -16,11 +16,7 @@ ZelkonManagementPage::~ZelkonManagementPage() = default;
 
 void ZelkonManagementPage::setup()
 {
-    createAccordion();
-    beginStretchedLayout();
-    createItems();
-    endStretchedLayout();
-    retranslateUi();
+    setupAccordion([this] { createItems(); });
     updatePlatformOptions();
 }
 

@@ -16,11 +16,7 @@ ZelkonPeripheralPage::~ZelkonPeripheralPage() = default;
 
 void ZelkonPeripheralPage::setup()
 {
-    createAccordion();
-    beginStretchedLayout();
-    createItems();
-    endStretchedLayout();
-    retranslateUi();
+    setupAccordion([this] { createItems(); });
     updatePlatformOptions();
 }
 

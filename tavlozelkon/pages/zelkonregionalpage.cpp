@@ -10,11 +10,7 @@ ZelkonRegionalPage::~ZelkonRegionalPage() = default;
 
 void ZelkonRegionalPage::setup()
 {
-    createAccordion();
-    beginStretchedLayout();
-    createItems();
-    endStretchedLayout();
-    retranslateUi();
+    setupAccordion([this] { createItems(); });
 }
 
 void ZelkonRegionalPage::createItems()
