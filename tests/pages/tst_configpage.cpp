@@ -132,14 +132,6 @@ private slots:
         QCOMPARE(help.count(), 2);
         QCOMPARE(help.at(1).at(0).toString(), BaseHelp);
     }
-
-    void containerPagesNameThemselves()
-    {
-        TestPage page;
-        QCOMPARE(page.title(), QStringLiteral("Regional"));
-        QCOMPARE(page.description(), QStringLiteral("Regional"));
-        QCOMPARE(page.numFrames(), 3);
-    }
 };
 
 QTEST_MAIN(TestConfigPage)

@@ -69,21 +69,12 @@ private slots:
         page.setupToShow();
         QCOMPARE(generation, 2);
         QVERIFY(page.summaryView()->toPlainText().contains(QStringLiteral("2")));
-    }
 
-    void buttonsAskTheHost()
-    {
-        ConfigFile config;
-        config.addNode(QStringLiteral("sound"));
-        config.setValue(QStringLiteral("mute"), QStringLiteral("true"));
-        config.setCurrentNodeAsRoot();
-        ZelkonSummaryPage page(&config);
         QSignalSpy apply(&page, &ZelkonSummaryPage::applyConfig);
         QSignalSpy save(&page, &ZelkonSummaryPage::saveConfig);
-        page.setupToShow();
         page.applyButton()->click();
-        QCOMPARE(apply.count(), 1);
         page.saveButton()->click();
+        QCOMPARE(apply.count(), 1);
         QCOMPARE(save.count(), 1);
     }
 

@@ -42,18 +42,6 @@ private slots:
         QVERIFY(Platform::isCe());
         QCOMPARE(changes.count(), 1);
     }
-
-    void pageNeverAsksTheHostByItself()
-    {
-        ZelkonTitlePage page;
-        QSignalSpy load(&page, &ZelkonTitlePage::loadConfig);
-        QSignalSpy save(&page, &ZelkonTitlePage::saveConfig);
-        QSignalSpy generate(&page, &ZelkonTitlePage::generateConfig);
-        page.setupPlatforms();
-        page.show();
-        page.setupToShow();
-        QCOMPARE(load.count() + save.count() + generate.count(), 0);
-    }
 };
 
 QTEST_MAIN(TestTitlePage)
