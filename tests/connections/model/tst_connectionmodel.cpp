@@ -2,26 +2,21 @@
 #include "connections/model/connectionkindred.h"
 #include "connections/model/connectionmodel.h"
 #include "connections/model/connectionsession.h"
+#include "devicetree.h"
 
-#include <QRegularExpression>
+#include <QUuid>
 #include <QtTest>
 #include <memory>
 #include <typeinfo>
 
 namespace {
-bool isBracedUuid(const QString& id)
+// Adds a session the way loading does on a device: with marking off, so the kind stays clean.
+ConnectionSession* addLoaded(ConnectionModel& model, const QString& type, const QString& id, const QString& name)
 {
-    static const QRegularExpression pattern(
-        QStringLiteral("^\\{[0-9a-f]{8}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{12}\\}$"));
-    return pattern.match(id).hasMatch();
-}
-
-// A kind as the loader leaves it on a device: filled with marking off, then clean.
-ConnectionSession& loadedSession(ConnectionKindred* kind, const QString& id, const QString& name)
-{
+    ConnectionKindred* kind = model.connections(type);
     kind->disableDirtyFlag();
-    ConnectionSession& session = kind->session(id);
-    session.setProperty("name", name);
+    ConnectionSession* session = &kind->session(id);
+    session->setProperty("name", name);
     kind->enableDirtyFlag();
     return session;
 }
@@ -32,185 +27,158 @@ class TestConnectionModel : public QObject
     Q_OBJECT
 
 private slots:
-    void sessionIds();
-    void kindSessionLookup();
-    void kindSessionOfAnotherAtomIsABadCast();
-    void kindIsMarkedBySessionChanges_data();
-    void kindIsMarkedBySessionChanges();
-    void connectionsCreatesCleanKinds();
-    void modelSessionLookup();
-    void unknownSessionIsNewAndParentless();
-    void sessionsByName();
-    void deleteSession();
-    void clearReplacesDesktop();
+    void dirtyFlagClimbsToFirstDisabledNode();
+    void childAtomsByName();
+    void refusedOrSilencedChangesMarkNothing();
+    void lookupsSearchKindsInKeyOrder();
+    void clearGivesFreshDesktop();
+    void launchersAreProbedOnEveryCall();
+    void namesAndNeverAvailableTypes();
+    void everyTypeHasIcons();
+    void iconWithoutSuffixComesFirst();
 };
 
-void TestConnectionModel::sessionIds()
+void TestConnectionModel::dirtyFlagClimbsToFirstDisabledNode()
 {
-    ConnectionSession fresh(QString(), nullptr);
-    QVERIFY(isBracedUuid(fresh.id()));
-    QCOMPARE(fresh.name(), fresh.id());
-    ConnectionSession other(QString(), nullptr);
-    QVERIFY(other.id() != fresh.id());
+    ConfigAtom root("ica");
+    auto* session = new ConfigAtom("s1", &root);
+    auto* proxy = new ConfigAtom("proxy", session);
+    auto* sibling = new ConfigAtom("s2", &root);
+    session->disableDirtyFlag();
+    proxy->enableDirtyFlag();
 
-    ConnectionSession given(QStringLiteral("not-a-uuid"), nullptr);
-    QCOMPARE(given.id(), QStringLiteral("not-a-uuid"));
-    given.setId(QString());
-    given.initId();
-    QVERIFY(isBracedUuid(given.id()));
+    proxy->setProperty("port", 8080);
+    QVERIFY(proxy->isDirty());
+    QVERIFY(!session->isDirty());
+    QVERIFY(!root.isDirty());
+
+    session->enableDirtyFlag();
+    proxy->setProperty("port", 8081);
+    QVERIFY(session->isDirty());
+    QVERIFY(root.isDirty());
+    QVERIFY(!sibling->isDirty());
 }
 
-void TestConnectionModel::kindSessionLookup()
+void TestConnectionModel::childAtomsByName()
 {
-    ConnectionKindred kind(QStringLiteral("rdp"));
-    QCOMPARE(kind.connectionType(), QStringLiteral("rdp"));
-    ConnectionSession& created = kind.session(QStringLiteral("{a}"));
-    QCOMPARE(created.id(), QStringLiteral("{a}"));
-    QCOMPARE(&kind.session(QStringLiteral("{a}")), &created);
-    QVERIFY(kind.containsSession(QStringLiteral("{a}")));
-
-    kind.atom(QStringLiteral("general_settings"));
-    ConnectionSession& first = kind.session(QString());
-    ConnectionSession& second = kind.session(QString());
-    QVERIFY(&first != &second);
-    QVERIFY(isBracedUuid(first.id()));
-    QCOMPARE(kind.sessions(), (QList<ConnectionSession*> { &created, &first, &second }));
-}
-
-void TestConnectionModel::kindSessionOfAnotherAtomIsABadCast()
-{
-    ConnectionKindred kind(QStringLiteral("browser"));
-    kind.atom(QStringLiteral("general_settings"));
-    QVERIFY_EXCEPTION_THROWN(kind.session(QStringLiteral("general_settings")), std::bad_cast);
-    QCOMPARE(kind.atoms().size(), 1);
-}
-
-void TestConnectionModel::kindIsMarkedBySessionChanges_data()
-{
-    QTest::addColumn<QString>("change");
-    QTest::newRow("session property") << "property";
-    QTest::newRow("proxy property") << "proxy";
-    QTest::newRow("new session, fresh id") << "new";
-    QTest::newRow("new session, given id") << "newWithId";
-    QTest::newRow("session renamed") << "rename";
-    QTest::newRow("session deleted") << "delete";
-}
-
-void TestConnectionModel::kindIsMarkedBySessionChanges()
-{
-    QFETCH(QString, change);
-    ConnectionKindred kind(QStringLiteral("ica"));
-    ConnectionSession& session = loadedSession(&kind, QStringLiteral("{s}"), QStringLiteral("Host"));
-    kind.disableDirtyFlag();
-    ConfigAtom* proxy = session.atom(QStringLiteral("proxy"));
-    kind.enableDirtyFlag();
-    QVERIFY(!kind.isDirty());
-
-    if (change == QLatin1String("property"))
-        session.setProperty("address", QStringLiteral("10.0.0.1"));
-    else if (change == QLatin1String("proxy"))
-        proxy->setProperty("enable", true);
-    else if (change == QLatin1String("new"))
-        kind.session(QString());
-    else if (change == QLatin1String("newWithId"))
-        kind.session(QStringLiteral("{t}"));
-    else if (change == QLatin1String("rename"))
-        session.setId(QStringLiteral("{u}"));
-    else
-        QVERIFY(kind.deleteSession(QStringLiteral("{s}")));
+    ConnectionKindred kind("browser");
+    ConfigAtom* settings = kind.atom("general_settings");
+    QCOMPARE(settings->name(), QString("general_settings"));
     QVERIFY(kind.isDirty());
+    QCOMPARE(kind.atom("general_settings"), settings);
+    QCOMPARE(kind.atoms(), QList<ConfigAtom*> { settings });
+    QVERIFY_EXCEPTION_THROWN(kind.session("general_settings"), std::bad_cast);
 }
 
-void TestConnectionModel::connectionsCreatesCleanKinds()
+void TestConnectionModel::refusedOrSilencedChangesMarkNothing()
 {
-    ConnectionModel model;
-    ConnectionKindred* kind = model.connections(QStringLiteral("x"));
-    QVERIFY(kind);
-    QCOMPARE(kind->connectionType(), QStringLiteral("x"));
-    QVERIFY(!kind->isDirty());
-    QVERIFY(kind->atoms().isEmpty());
-    QCOMPARE(model.connections(QStringLiteral("x")), kind);
-    QVERIFY(model.connections(QStringLiteral("X")) != kind);
+    ConfigAtom root("rdp");
+    auto* child = new ConfigAtom("s1", &root);
+    QVERIFY(!child->setProperty("objectName", "renamed"));
+    QCOMPARE(child->name(), QString("s1"));
+    QVERIFY(!root.deleteAtom("unknown"));
+    QVERIFY(!child->isDirty());
+    QVERIFY(!root.isDirty());
+
+    root.disableDirtyFlag();
+    child->setProperty("name", "n");
+    ConfigAtom* proxy = child->atom("proxy");
+    proxy->setProperty("port", 1);
+    QVERIFY(!proxy->isDirty());
+    QVERIFY(!child->isDirty());
+    QVERIFY(root.deleteAtom("s1"));
+    QVERIFY(!root.isDirty());
 }
 
-void TestConnectionModel::modelSessionLookup()
+void TestConnectionModel::lookupsSearchKindsInKeyOrder()
 {
     ConnectionModel model;
-    ConnectionSession& inRdp = loadedSession(model.connections(QStringLiteral("rdp")), QStringLiteral("{1}"), "A");
-    ConnectionSession& inIca = loadedSession(model.connections(QStringLiteral("ica")), QStringLiteral("{1}"), "B");
-    loadedSession(model.connections(QStringLiteral("vmware")), QStringLiteral("{2}"), "C");
+    ConnectionSession* rdp = addLoaded(model, "rdp", "{1}", "Office");
+    ConnectionSession* ica = addLoaded(model, "ica", "{1}", "Office");
+    addLoaded(model, "ica", "{2}", "office");
 
-    // Kinds are searched in key order: "ica" before "rdp".
-    QCOMPARE(model.session(QStringLiteral("{1}")), &inIca);
-    QCOMPARE(model.connectionTypeOf(QStringLiteral("{1}")), QStringLiteral("ica"));
-    QCOMPARE(model.connectionTypeOf(QStringLiteral("{2}")), QStringLiteral("vmware"));
-    QCOMPARE(model.connectionTypeOf(QStringLiteral("{3}")), QString());
+    QCOMPARE(model.session("{1}"), ica);
+    QCOMPARE(model.connectionTypeOf("{1}"), QString("ica"));
+    QCOMPARE(model.connectionTypeOf("{3}"), QString());
+    QCOMPARE(model.sessionsByName("Office"), (QList<ConnectionSession*> { ica, rdp }));
 
-    QVERIFY(model.deleteSession(QStringLiteral("{1}")));
-    QCOMPARE(model.session(QStringLiteral("{1}")), &inRdp);
-    QVERIFY(model.connections(QStringLiteral("ica"))->isDirty());
-    QVERIFY(!model.connections(QStringLiteral("rdp"))->isDirty());
+    std::unique_ptr<ConnectionSession> unknown(model.session("{3}"));
+    QVERIFY(!unknown->parent());
+    QVERIFY(!QUuid(unknown->id()).isNull());
+    QCOMPARE(unknown->id(), QUuid(unknown->id()).toString());
+    QVERIFY(!model.deleteSession("{3}"));
+    QCOMPARE(model.connectionTypeOf(unknown->id()), QString());
+    QVERIFY(!model.connections("ica")->isDirty());
+    QVERIFY(!model.connections("rdp")->isDirty());
+
+    QVERIFY(model.deleteSession("{1}"));
+    QVERIFY(model.connections("ica")->isDirty());
+    QCOMPARE(model.session("{1}"), rdp);
 }
 
-void TestConnectionModel::unknownSessionIsNewAndParentless()
+void TestConnectionModel::clearGivesFreshDesktop()
 {
     ConnectionModel model;
-    loadedSession(model.connections(QStringLiteral("rdp")), QStringLiteral("{1}"), "A");
-
-    std::unique_ptr<ConnectionSession> session(model.session(QStringLiteral("{unknown}")));
-    QVERIFY(session);
-    QVERIFY(!session->parent());
-    QVERIFY(isBracedUuid(session->id()));
-    QCOMPARE(model.connectionTypeOf(session->id()), QString());
-    QCOMPARE(model.connections(QStringLiteral("rdp"))->sessions().size(), 1);
-    QVERIFY(!model.connections(QStringLiteral("rdp"))->isDirty());
-}
-
-void TestConnectionModel::sessionsByName()
-{
-    ConnectionModel model;
-    ConnectionSession& rdp = loadedSession(model.connections(QStringLiteral("rdp")), "{1}", QStringLiteral("Office"));
-    ConnectionSession& ica = loadedSession(model.connections(QStringLiteral("ica")), "{2}", QStringLiteral("Office"));
-    loadedSession(model.connections(QStringLiteral("ica")), QStringLiteral("{3}"), QStringLiteral("office"));
-    ConnectionSession& ica2 = loadedSession(model.connections(QStringLiteral("ica")), "{4}", QStringLiteral("Office"));
-    model.connections(QStringLiteral("browser"))->atom(QStringLiteral("general_settings"));
-
-    QCOMPARE(model.sessionsByName(QStringLiteral("Office")), (QList<ConnectionSession*> { &ica, &ica2, &rdp }));
-    QVERIFY(model.sessionsByName(QStringLiteral("Office ")).isEmpty());
-    QVERIFY(model.sessionsByName(QStringLiteral("general_settings")).isEmpty());
-}
-
-void TestConnectionModel::deleteSession()
-{
-    ConnectionModel model;
-    loadedSession(model.connections(QStringLiteral("rdp")), QStringLiteral("{1}"), QStringLiteral("A"));
-    QVERIFY(!model.deleteSession(QStringLiteral("{unknown}")));
-    QVERIFY(!model.connections(QStringLiteral("rdp"))->isDirty());
-    QVERIFY(model.deleteSession(QStringLiteral("{1}")));
-    QVERIFY(model.connections(QStringLiteral("rdp"))->isDirty());
-    QVERIFY(!model.deleteSession(QStringLiteral("{1}")));
-}
-
-void TestConnectionModel::clearReplacesDesktop()
-{
-    ConnectionModel model;
-    ConfigAtom* desktop = model.desktopConfig();
-    QCOMPARE(desktop->name(), QStringLiteral("desktop"));
-    QVERIFY(!desktop->isDirty());
-    desktop->setProperty("kiosk_mode", true);
-    QVERIFY(desktop->isDirty());
-    ConnectionKindred* rdp = model.connections(QStringLiteral("rdp"));
-    loadedSession(rdp, QStringLiteral("{1}"), QStringLiteral("A"));
-
+    addLoaded(model, "rdp", "{1}", "A");
+    model.desktopConfig()->setProperty("kiosk_mode", true);
     model.clear();
-    ConfigAtom* fresh = model.desktopConfig();
-    QCOMPARE(fresh->name(), QStringLiteral("desktop"));
-    QVERIFY(!fresh->isDirty());
-    QVERIFY(!fresh->property("kiosk_mode").isValid());
-    QCOMPARE(model.connectionTypeOf(QStringLiteral("{1}")), QString());
-    QVERIFY(model.connections(QStringLiteral("rdp")) != rdp);
-    // Dropped kinds stay usable for whoever still holds them.
-    QCOMPARE(rdp->sessions().size(), 1);
+    QCOMPARE(model.desktopConfig()->name(), QString("desktop"));
+    QVERIFY(!model.desktopConfig()->isDirty());
+    QVERIFY(!model.desktopConfig()->property("kiosk_mode").isValid());
+    QCOMPARE(model.connectionTypeOf("{1}"), QString());
+}
+
+void TestConnectionModel::launchersAreProbedOnEveryCall()
+{
+    DeviceTree tree;
+    QVERIFY(ConnectionModel::sCategorizedConnectionTypes().isEmpty());
+    QVERIFY(ConnectionModel::sSupportedConnectionTypes().isEmpty());
+
+    tree.addFile("/usr/bin/view-runner");
+    QCOMPARE(ConnectionModel::sCategorizedConnectionTypes(),
+             (QList<QPair<QString, QString>> { qMakePair(QString("VDI connection brokers"), QString("vmware")) }));
+    QCOMPARE(ConnectionModel::sSupportedConnectionTypes(), QStringList { "vmware" });
+
+    tree.removeFile("/usr/bin/view-runner");
+    QVERIFY(ConnectionModel::sSupportedConnectionTypes().isEmpty());
+    QVERIFY(!ConnectionModel::sIsConnectionTypeAvailable("vmware"));
+}
+
+void TestConnectionModel::namesAndNeverAvailableTypes()
+{
+    DeviceTree tree;
+    for (const char* launcher : { "rdesktop-runner", "ica-session-runner", "parlix-runner", "iceweasel-runner",
+                                  "view-runner", "pnagent-runner" })
+        tree.addFile(QLatin1String("/usr/bin/") + QLatin1String(launcher));
+    // CDA mode is categorised but has no launcher.
+    QCOMPARE(ConnectionModel::sSupportedConnectionTypes(),
+             (QStringList { "rdp", "ica", "parlix", "browser", "vmware", "xenapp" }));
+    QVERIFY(!ConnectionModel::sIsConnectionTypeAvailable("cda"));
+
+    QCOMPARE(ConnectionModel::sGetConnectionTypeName("rdp"), QString("RDP"));
+    QCOMPARE(ConnectionModel::sGetConnectionTypeName("RDP"), QString());
+}
+
+void TestConnectionModel::everyTypeHasIcons()
+{
+    for (const char* key : { "rdp", "ica", "parlix", "browser", "cda", "vmware", "xenapp", "leostream", "glimt",
+                             "hollis", "ssh", "telnet", "vworkspace", "xdmcp" }) {
+        for (int size : { 16, 32 }) {
+            const QImage image
+                = ConnectionModel::sGetConnectionTypeIcon(QLatin1String(key), size).pixmap(size, size).toImage();
+            // Drawn, not blank: the SVG was found and rendered something opaque.
+            QVERIFY2(image.size() == QSize(size, size) && qAlpha(image.pixel(size / 2, 2)) == 255,
+                     qPrintable(QString("%1 at %2").arg(QLatin1String(key)).arg(size)));
+        }
+    }
+}
+
+void TestConnectionModel::iconWithoutSuffixComesFirst()
+{
+    // This test's own resource adds :/icaIcon16 in magenta beside the library's :/icaIcon16.svg.
+    const QRgb magenta = qRgb(255, 0, 255);
+    QCOMPARE(ConnectionModel::sGetConnectionTypeIcon("ica", 16).pixmap(16).toImage().pixel(8, 8), magenta);
+    QVERIFY(ConnectionModel::sGetConnectionTypeIcon("ica", 32).pixmap(32).toImage().pixel(16, 16) != magenta);
 }
 
 QTEST_MAIN(TestConnectionModel)
