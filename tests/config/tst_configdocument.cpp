@@ -1,388 +1,167 @@
 #include "config/configfile.h"
+#include "devicetree.h"
 
 #include <QtTest>
 
-/*
- * The cursor interface every frame and model uses: navigation, values and their
- * encodings, attributes, clearing and the order of sections.
- */
+namespace {
+void setXml(ConfigFile& config, const QByteArray& xml)
+{
+    QVERIFY(config.setContent(xml));
+    config.setCurrentNodeAsRoot();
+}
+
+// Qt's serialisation without indentation or line breaks.
+QString compact(const QDomNode& node)
+{
+    QString text;
+    QTextStream stream(&text);
+    node.save(stream, -1);
+    return text;
+}
+} // namespace
+
+// The document in memory: the cursor, values, sorting and the HTML summary.
 class ConfigDocumentTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void freshDocumentHasCursorOnRoot();
-    void navigationIsRecursive();
-    void addNodeCountsNamesakesAtAnyDepth();
-    void findNodePastTheLastMatchKeepsCursor();
-    void refusalsAtTheTop();
-    void removeNodeLeavesCursorOnParent();
-    void countsIncludeTextAndNestedNamesakes();
-    void siblingSearchSkipsChildren();
-    void valuesRoundTrip();
-    void valueOperationsReturnToParent();
-    void boolValue_data();
-    void boolValue();
-    void intValue_data();
-    void intValue();
-    void setValueOnKeyWithoutTextChangesNothing();
-    void clearKeepsRootAndAttributes();
-    void setCurrentNodeAsRoot();
-    void sortNodes_data();
-    void sortNodes();
-    void sortNodesKeepsGrandchildrenAndCursor();
-};
+    void navigation()
+    {
+        ConfigFile config;
+        QVERIFY(!config.leaveNode()); // never above the root
+        QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon"));
 
-namespace {
-QStringList childNames(const QDomNode& parent)
-{
-    QStringList names;
-    for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling())
-        names.append(child.nodeName());
-    return names;
-}
-} // namespace
+        setXml(config, "<zelkon><rdp><session><name>a</name><session/></session>text<!--c--></rdp></zelkon>");
+        // Keys are found at any depth; value() leaves the cursor on the key's parent.
+        QCOMPARE(config.value(QStringLiteral("name")), QStringLiteral("a"));
+        QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/rdp/session"));
+        QVERIFY(config.leaveNode());
+        QCOMPARE(config.nodeCount(), 3); // text and comment count too
+        QVERIFY(!config.findNode(QStringLiteral("session"), 2));
+        QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/rdp"));
+        QVERIFY(config.findNode(QStringLiteral("session"), 1));
+        QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/rdp/session/session"));
+        config.setCurrentNodeAsRoot();
+        QVERIFY(config.removeNode(QStringLiteral("name"), 0));
+        QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/rdp/session"));
 
-void ConfigDocumentTest::freshDocumentHasCursorOnRoot()
-{
-    ConfigFile config;
-    QVERIFY(config.currentNode().isElement());
-    QCOMPARE(config.currentNode().nodeName(), QStringLiteral("zelkon"));
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon"));
-    QVERIFY(config.firstChild().isProcessingInstruction());
-    QCOMPARE(config.firstChild().nodeName(), QStringLiteral("xml version=\"1.0\" encoding=\"utf-8\""));
-    QCOMPARE(config.attribute(QStringLiteral("version")), QStringLiteral("1.0"));
-    QCOMPARE(config.attribute(QStringLiteral("creator")), QStringLiteral("zelkon"));
-    QCOMPARE(config.attribute(QStringLiteral("creator_version")), QStringLiteral("2.0"));
-    QVERIFY(config.attribute(QStringLiteral("id")).isNull());
-    QVERIFY(!config.isValid());
-    QVERIFY(config.errorMessage().isEmpty());
-    QVERIFY(config.getfilename().isEmpty());
-}
+        // addNode() answers how many namesakes were below the cursor, at any depth, before it.
+        config.setCurrentNodeAsRoot();
+        QCOMPARE(config.addNode(QStringLiteral("session")), 2);
+        QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/session"));
 
-void ConfigDocumentTest::navigationIsRecursive()
-{
-    ConfigFile config;
-    config.addNode(QStringLiteral("display"));
-    config.addNode(QStringLiteral("monitor"));
-    config.setValue(QStringLiteral("depth"), QStringLiteral("24"));
-    config.setCurrentNodeAsRoot();
-
-    // The key two levels down is found from the root.
-    QVERIFY(config.findNode(QStringLiteral("depth"), 0));
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/display/monitor/depth"));
-    config.setCurrentNodeAsRoot();
-    QCOMPARE(config.value(QStringLiteral("depth")), QStringLiteral("24"));
-    // ...and value() leaves the cursor on the key's parent, not where it started.
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/display/monitor"));
-}
-
-void ConfigDocumentTest::addNodeCountsNamesakesAtAnyDepth()
-{
-    ConfigFile config;
-    QCOMPARE(config.addNode(QStringLiteral("session")), 0);
-    QVERIFY(config.leaveNode());
-    QCOMPARE(config.addNode(QStringLiteral("session")), 1);
-    // A nested namesake counts as well.
-    QCOMPARE(config.addNode(QStringLiteral("session")), 0);
-    config.setCurrentNodeAsRoot();
-    QCOMPARE(config.addNode(QStringLiteral("session")), 3);
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/session"));
-    QCOMPARE(config.nodeCount(), 0);
-}
-
-void ConfigDocumentTest::findNodePastTheLastMatchKeepsCursor()
-{
-    ConfigFile config;
-    config.addNode(QStringLiteral("rdp"));
-    config.addNode(QStringLiteral("session"));
-    config.leaveNode();
-    config.addNode(QStringLiteral("session"));
-    config.leaveNode();
-
-    QVERIFY(!config.findNode(QStringLiteral("session"), 2));
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/rdp"));
-    QVERIFY(!config.findNode(QStringLiteral("session"), -1));
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/rdp"));
-    QVERIFY(config.findNode(QStringLiteral("session"), 1));
-    QCOMPARE(config.currentNode().parentNode().childNodes().at(1), config.currentNode());
-}
-
-void ConfigDocumentTest::refusalsAtTheTop()
-{
-    ConfigFile config;
-    QVERIFY(!config.leaveNode());
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon"));
-
-    // A document whose root is not "zelkon" leaves a null cursor; then nothing is written.
-    QVERIFY(config.setContent(QByteArrayLiteral("<other/>")));
-    config.setCurrentNodeAsRoot();
-    QVERIFY(config.currentNode().isNull());
-    QVERIFY(!config.leaveNode());
-    QCOMPARE(config.addNode(QStringLiteral("sound")), -1);
-    QCOMPARE(config.namedNodeCount(QStringLiteral("other")), 0);
-    QCOMPARE(config.nodeCount(), 0);
-    QVERIFY(!config.findNode(QStringLiteral("other"), 0));
-    QCOMPARE(config.currentNodePath(), QString());
-    QCOMPARE(config.attribute(QStringLiteral("x")), QStringLiteral(""));
-    QVERIFY(!config.attribute(QStringLiteral("x")).isNull());
-    QVERIFY(!config.hasAttribute(QStringLiteral("x")));
-    config.setValue(QStringLiteral("volume"), QStringLiteral("3"));
-    QCOMPARE(config.documentElement().childNodes().count(), 0);
-}
-
-void ConfigDocumentTest::removeNodeLeavesCursorOnParent()
-{
-    ConfigFile config;
-    config.addNode(QStringLiteral("printers"));
-    config.addNode(QStringLiteral("printer"));
-    config.setValue(QStringLiteral("name"), QStringLiteral("first"));
-    config.leaveNode();
-    config.addNode(QStringLiteral("printer"));
-    config.setValue(QStringLiteral("name"), QStringLiteral("second"));
-    config.setCurrentNodeAsRoot();
-
-    QVERIFY(config.removeNode(QStringLiteral("printer"), 0));
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/printers"));
-    QCOMPARE(config.namedNodeCount(QStringLiteral("printer")), 1);
-    QCOMPARE(config.value(QStringLiteral("name")), QStringLiteral("second"));
-
-    config.setCurrentNodeAsRoot();
-    QVERIFY(!config.removeNode(QStringLiteral("printer"), 1));
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon"));
-
-    config.findNode(QStringLiteral("printer"), 0);
-    config.removeValue(QStringLiteral("name"));
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/printers/printer"));
-    QCOMPARE(config.nodeCount(), 0);
-}
-
-void ConfigDocumentTest::countsIncludeTextAndNestedNamesakes()
-{
-    ConfigFile config;
-    config.addNode(QStringLiteral("a"));
-    config.currentNode().appendChild(config.createComment(QStringLiteral("note")));
-    config.setValue(QStringLiteral("b"), QStringLiteral("x"));
-    config.addNode(QStringLiteral("a"));
-    config.leaveNode();
-    QCOMPARE(config.nodeCount(), 3);
-    QVERIFY(config.findNode(QStringLiteral("b"), 0));
-    QCOMPARE(config.nodeCount(), 1);
-    config.setCurrentNodeAsRoot();
-    QCOMPARE(config.namedNodeCount(QStringLiteral("a")), 2);
-}
-
-void ConfigDocumentTest::siblingSearchSkipsChildren()
-{
-    ConfigFile config;
-    config.addNode(QStringLiteral("x"));
-    config.addNode(QStringLiteral("target"));
-    config.setCurrentNodeAsRoot();
-    config.addNode(QStringLiteral("y"));
-    config.leaveNode();
-    config.addNode(QStringLiteral("target"));
-    config.setCurrentNodeAsRoot();
-
-    const QDomNode first = config.documentElement().firstChild();
-    const QDomNode found = config.findNode(QStringLiteral("target"), first);
-    QCOMPARE(found, config.documentElement().lastChild());
-    QCOMPARE(config.findNode(QStringLiteral("x"), first), first);
-    QVERIFY(config.findNode(QStringLiteral("x"), first.nextSibling()).isNull());
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon"));
-}
-
-void ConfigDocumentTest::valuesRoundTrip()
-{
-    ConfigFile config;
-    config.addNode(QStringLiteral("power"));
-    config.setIntValue(QStringLiteral("delay"), -15);
-    config.setBoolValue(QStringLiteral("enabled"), true);
-    config.setBoolValue(QStringLiteral("suspend"), false);
-    config.setValue(QStringLiteral("name"), QStringLiteral("a < b & \"c\""));
-
-    QCOMPARE(config.value(QStringLiteral("delay")), QStringLiteral("-15"));
-    QCOMPARE(config.intValue(QStringLiteral("delay")), -15);
-    QCOMPARE(config.value(QStringLiteral("enabled")), QStringLiteral("true"));
-    QCOMPARE(config.value(QStringLiteral("suspend")), QStringLiteral("false"));
-    QVERIFY(config.boolValue(QStringLiteral("enabled")));
-    QVERIFY(!config.boolValue(QStringLiteral("suspend")));
-    QCOMPARE(config.value(QStringLiteral("name")), QStringLiteral("a < b & \"c\""));
-
-    config.setValue(QStringLiteral("name"), QStringLiteral("other"));
-    QCOMPARE(config.namedNodeCount(QStringLiteral("name")), 1);
-    QCOMPARE(config.value(QStringLiteral("name")), QStringLiteral("other"));
-
-    QVERIFY(config.value(QStringLiteral("missing")).isNull());
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/power"));
-}
-
-void ConfigDocumentTest::valueOperationsReturnToParent()
-{
-    ConfigFile config;
-    config.addNode(QStringLiteral("sound"));
-    config.setValue(QStringLiteral("volume"), QStringLiteral("7"));
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/sound"));
-    config.setValue(QStringLiteral("volume"), QStringLiteral("8"));
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/sound"));
-    config.value(QStringLiteral("volume"));
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/sound"));
-
-    // createTextNode on its own stays on the new element.
-    config.createTextNode(QStringLiteral("mute"), QStringLiteral("false"));
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/sound/mute"));
-    QCOMPARE(config.getTextValue(), QStringLiteral("false"));
-}
-
-void ConfigDocumentTest::boolValue_data()
-{
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<bool>("expected");
-    QTest::newRow("true") << "true" << true;
-    QTest::newRow("capitals") << "TRUE" << true;
-    QTest::newRow("mixed case") << "True" << true;
-    QTest::newRow("false") << "false" << false;
-    // The "0" rule: a stored 0 reads as true, a stored 1 as false.
-    QTest::newRow("zero") << "0" << true;
-    QTest::newRow("one") << "1" << false;
-    QTest::newRow("yes") << "yes" << false;
-    QTest::newRow("padded true") << " true" << false;
-    QTest::newRow("empty") << "" << false;
-}
-
-void ConfigDocumentTest::boolValue()
-{
-    QFETCH(QString, stored);
-    QFETCH(bool, expected);
-    ConfigFile config;
-    config.setValue(QStringLiteral("flag"), stored);
-    QCOMPARE(config.boolValue(QStringLiteral("flag")), expected);
-    QVERIFY(!config.boolValue(QStringLiteral("missing")));
-}
-
-void ConfigDocumentTest::intValue_data()
-{
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("decimal") << "42" << 42;
-    QTest::newRow("negative") << "-3" << -3;
-    QTest::newRow("leading zero is still decimal") << "010" << 10;
-    QTest::newRow("hex is not read") << "0x10" << 0;
-    QTest::newRow("text") << "loud" << 0;
-    QTest::newRow("empty") << "" << 0;
-}
-
-void ConfigDocumentTest::intValue()
-{
-    QFETCH(QString, stored);
-    QFETCH(int, expected);
-    ConfigFile config;
-    config.setValue(QStringLiteral("n"), stored);
-    QCOMPARE(config.intValue(QStringLiteral("n")), expected);
-    QCOMPARE(config.intValue(QStringLiteral("missing")), 0);
-}
-
-void ConfigDocumentTest::setValueOnKeyWithoutTextChangesNothing()
-{
-    // As read back from a file, an empty value is <key/> without a text node.
-    ConfigFile config;
-    QVERIFY(config.setContent(QByteArrayLiteral("<zelkon><wireless><ssid/></wireless></zelkon>"), true));
-    config.setCurrentNodeAsRoot();
-    QVERIFY(config.findNode(QStringLiteral("wireless"), 0));
-    config.setValue(QStringLiteral("ssid"), QStringLiteral("office"));
-    QCOMPARE(config.value(QStringLiteral("ssid")), QString());
-    QCOMPARE(config.namedNodeCount(QStringLiteral("ssid")), 1);
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/wireless"));
-    QVERIFY(config.findNode(QStringLiteral("ssid"), 0));
-    QVERIFY(config.getTextNode().isNull());
-    config.changeTextNode(QStringLiteral("office"));
-    QCOMPARE(config.nodeCount(), 0);
-}
-
-void ConfigDocumentTest::clearKeepsRootAndAttributes()
-{
-    ConfigFile config;
-    config.clear();
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon"));
-    QCOMPARE(config.nodeCount(), 0);
-
-    config.addNode(QStringLiteral("sound"));
-    config.setValue(QStringLiteral("volume"), QStringLiteral("3"));
-    config.leaveNode();
-    config.addNode(QStringLiteral("power"));
-    config.clear();
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon"));
-    QCOMPARE(config.nodeCount(), 0);
-    QCOMPARE(config.documentElement().attributes().count(), 3);
-    QCOMPARE(config.attribute(QStringLiteral("creator_version")), QStringLiteral("2.0"));
-    QCOMPARE(config.childNodes().count(), 2);
-}
-
-void ConfigDocumentTest::setCurrentNodeAsRoot()
-{
-    ConfigFile config;
-    QVERIFY(config.setContent(
-        QByteArrayLiteral("<?xml version=\"1.0\"?><!-- before --><zelkon><sound><volume>1</volume></sound></zelkon>")));
-    config.setCurrentNodeAsRoot();
-    QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon"));
-    config.findNode(QStringLiteral("volume"), 0);
-    config.setCurrentNodeAsRoot();
-    QCOMPARE(config.currentNode(), QDomNode(config.documentElement()));
-}
-
-void ConfigDocumentTest::sortNodes_data()
-{
-    QTest::addColumn<QStringList>("names");
-    QTest::addColumn<QStringList>("sorted");
-    QTest::newRow("none") << QStringList() << QStringList();
-    QTest::newRow("one") << QStringList { "sound" } << QStringList { "sound" };
-    QTest::newRow("reversed") << QStringList { "wireless", "sound", "power", "display" }
-                              << QStringList { "display", "power", "sound", "wireless" };
-    QTest::newRow("upper case before lower case")
-        << QStringList { "apple", "Zebra", "mango", "Banana" } << QStringList { "Banana", "Zebra", "apple", "mango" };
-    QTest::newRow("underscore between cases") << QStringList { "a", "_b", "B" } << QStringList { "B", "_b", "a" };
-    QTest::newRow("prefix first") << QStringList { "time_zone", "time" } << QStringList { "time", "time_zone" };
-}
-
-void ConfigDocumentTest::sortNodes()
-{
-    QFETCH(QStringList, names);
-    QFETCH(QStringList, sorted);
-    ConfigFile config;
-    for (const QString& name : names) {
-        config.addNode(name);
-        config.leaveNode();
+        // A root of another name leaves no element under the cursor, and nothing is added.
+        setXml(config, "<other/>");
+        QVERIFY(config.currentNode().isNull());
+        QCOMPARE(config.addNode(QStringLiteral("sound")), -1);
+        QVERIFY(!config.documentElement().hasChildNodes());
     }
-    config.sortNodes();
-    QCOMPARE(childNames(config.documentElement()), sorted);
-}
 
-void ConfigDocumentTest::sortNodesKeepsGrandchildrenAndCursor()
-{
-    ConfigFile config;
-    config.addNode(QStringLiteral("session"));
-    config.setValue(QStringLiteral("name"), QStringLiteral("second-last"));
-    config.leaveNode();
-    config.addNode(QStringLiteral("keyboard"));
-    config.setValue(QStringLiteral("z"), QStringLiteral("1"));
-    config.setValue(QStringLiteral("a"), QStringLiteral("2"));
-    config.leaveNode();
-    config.addNode(QStringLiteral("session"));
-    config.setValue(QStringLiteral("name"), QStringLiteral("last"));
-    config.leaveNode();
-    config.currentNode().appendChild(config.createComment(QStringLiteral("c")));
-    config.currentNode().appendChild(QDomNode(config.QDomDocument::createTextNode(QStringLiteral("t"))));
+    void setValue()
+    {
+        ConfigFile config;
+        setXml(config, "<zelkon><wireless><ssid/><key>a</key></wireless></zelkon>");
+        config.setBoolValue(QStringLiteral("enabled"), false);
+        // <ssid/> as read from a file has no text node to change, so it stays empty.
+        config.setValue(QStringLiteral("ssid"), QStringLiteral("office"));
+        config.setValue(QStringLiteral("key"), QStringLiteral("b & c"));
+        QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/wireless"));
+        QCOMPARE(compact(config),
+                 QStringLiteral(
+                     "<zelkon><wireless><ssid/><key>b &amp; c</key></wireless><enabled>false</enabled></zelkon>"));
+    }
 
-    config.findNode(QStringLiteral("keyboard"), 0);
-    const QDomNode cursor = config.currentNode();
-    config.sortNodes();
+    void boolValue_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<bool>("expected");
+        QTest::newRow("true") << "true" << true;
+        QTest::newRow("any case") << "TrUE" << true;
+        QTest::newRow("false") << "false" << false;
+        // Files have always read a stored 0 as true and 1 as false.
+        QTest::newRow("0") << "0" << true;
+        QTest::newRow("1") << "1" << false;
+        QTest::newRow("padded") << " true" << false;
+        QTest::newRow("missing") << QString() << false;
+    }
 
-    QCOMPARE(config.currentNode(), cursor);
-    const QDomElement root = config.documentElement();
-    QCOMPARE(childNames(root), (QStringList { "#comment", "#text", "keyboard", "session", "session" }));
-    QCOMPARE(childNames(root.firstChildElement(QStringLiteral("keyboard"))), (QStringList { "z", "a" }));
-    QCOMPARE(root.lastChild().toElement().text(), QStringLiteral("last"));
-    QCOMPARE(root.lastChild().previousSibling().toElement().text(), QStringLiteral("second-last"));
-}
+    void boolValue()
+    {
+        QFETCH(QString, stored);
+        QFETCH(bool, expected);
+        ConfigFile config;
+        if (!stored.isNull())
+            config.setValue(QStringLiteral("flag"), stored);
+        QCOMPARE(config.boolValue(QStringLiteral("flag")), expected);
+    }
+
+    void sortNodes_data()
+    {
+        QTest::addColumn<QByteArray>("children");
+        QTest::addColumn<QString>("sorted");
+        QTest::newRow("upper case first")
+            << QByteArray("<apple/><Zebra/><mango/><Banana/>") << "<Banana/><Zebra/><apple/><mango/>";
+        QTest::newRow("equal names keep their order")
+            << QByteArray("<s>2</s><k/><s>1</s><a/><s>3</s>") << "<a/><k/><s>2</s><s>1</s><s>3</s>";
+        QTest::newRow("root's children only")
+            << QByteArray("<b/>t<!--c--><a><z/><y/></a>") << "<!--c-->t<a><z/><y/></a><b/>";
+    }
+
+    void sortNodes()
+    {
+        QFETCH(QByteArray, children);
+        QFETCH(QString, sorted);
+        ConfigFile config;
+        setXml(config, "<zelkon>" + children + "</zelkon>");
+        config.sortNodes();
+        QCOMPARE(compact(config.documentElement()), "<zelkon>" + sorted + "</zelkon>");
+    }
+
+    void summary()
+    {
+        DeviceTree device;
+        device.addFile(QStringLiteral("/usr/bin/view-runner"));
+        device.addFile(QStringLiteral("/usr/bin/rdesktop-runner"));
+
+        ConfigFile config;
+        setXml(config, R"(<zelkon version="1.0" creator="zelkon" creator_version="2.0">
+     <time_zone><timezone>Europe/Oslo</timezone></time_zone>
+     <wireless><ssid>Caf&amp;&lt;e&gt; "net"</ssid><!-- not shown --><passphrase>secret</passphrase>
+      <hide_control>true</hide_control><empty_key/></wireless>
+     <sound/>
+     <rdp>
+      <session><name>Desk</name><password>plain</password><proxy><host>p.example</host></proxy></session>
+      <session><name>Two</name></session>
+     </rdp>
+     <browser><general_settings><home_page>http://x/?a=1&amp;b=2</home_page></general_settings></browser>
+     <vmware/>
+     <xenapp/>
+     <network><password>topsecret</password></network>
+    </zelkon>)");
+        config.findNode(QStringLiteral("rdp"), 0);
+
+        // Secrets are masked in plain sections only; sessions are shown as stored. The empty
+        // vmware section is listed because its launcher is installed.
+        const QString expected = QStringLiteral(
+            R"(<h3>Time Zone</h3><table><tr><td width ="50%">Time Zone</td><td>Europe/Oslo</td></tr></table>)"
+            R"(<h3>Wireless</h3><table><tr><td width ="50%">SSID</td><td>Caf&amp;&lt;e&gt; &quot;net&quot;</td></tr>)"
+            R"(<tr><td width ="50%">Passphrase</td><td>********</td></tr>)"
+            R"(<tr><td width ="50%">Hide_control</td><td>true</td></tr>)"
+            R"(<tr><td width ="50%">Empty_key</td><td></td></tr></table>)"
+            R"(<h3>RDP</h3><table><tr><td width="10%"/><td width ="50%">Name</td><td>Desk</td></tr>)"
+            R"(<tr><td width="10%"/><td width ="50%">Password</td><td>plain</td></tr>)"
+            R"(<tr><td width="10%"/><td width ="50%">Proxy</td></tr>)"
+            R"(<tr><td width="10%"/><td width ="50%">Host</td><td>p.example</td></tr><tr/><tr/>)"
+            R"(<tr><td width="10%"/><td width ="50%">Name</td><td>Two</td></tr><tr/></table>)"
+            R"(<h3>Web Browser</h3><table><tr><td width="10%"/><td width ="50%">General Settings</td></tr>)"
+            R"(<tr><td width="10%"/><td width ="50%">Home_page</td><td>http://x/?a=1&amp;b=2</td></tr><tr/></table>)"
+            R"(<h3>VMware View</h3><table></table>)"
+            R"(<h3>Network</h3><table><tr><td width ="50%">Password</td><td>********</td></tr></table>)");
+        QCOMPARE(config.toFormattedString(), expected);
+        QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/rdp"));
+    }
+};
 
 QTEST_MAIN(ConfigDocumentTest)
 #include "tst_configdocument.moc"
