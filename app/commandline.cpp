@@ -4,8 +4,6 @@
 
 namespace {
 const QString PlatformOption = QStringLiteral("platform");
-// What "--platform" arrives as: the application object would otherwise claim it.
-const QString TargetOption = QStringLiteral("target");
 const QString StandaloneOption = QStringLiteral("standalone");
 const QString DeviceRootOption = QStringLiteral("device-root");
 const QString ScreenshotsOption = QStringLiteral("screenshots");
@@ -16,8 +14,7 @@ CommandLine::CommandLine()
     m_parser.setApplicationDescription(tr("Configuration wizard for Tavlo Thin Clients."));
     m_parser.addOption({ QStringLiteral("help"), tr("Show this help and exit.") });
     m_parser.addOption({ QStringLiteral("version"), tr("Show the version and exit.") });
-    m_parser.addOption(
-        { { PlatformOption, TargetOption }, tr("Target platform: lunvex, wes, wes7 or ce."), tr("platform") });
+    m_parser.addOption({ PlatformOption, tr("Target platform: lunvex, wes, wes7 or ce."), tr("platform") });
     m_parser.addOption({ StandaloneOption, tr("Prepare configuration files instead of configuring this device.") });
     m_parser.addOption(
         { DeviceRootOption, tr("Behave as on the device whose file tree is copied in <dir>."), tr("dir") });

@@ -14,7 +14,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QTextStream>
-#include <vector>
 
 namespace {
 QTextStream& out()
@@ -30,26 +29,34 @@ QTextStream& err()
 }
 } // namespace
 
-void Launcher::prepareArguments(int argc, char** argv)
+QStringList Launcher::prepareArguments(int& argc, char** argv)
 {
-    // Qt takes "--platform" for its window-system plugin; ours goes by its other name.
-    static std::vector<QByteArray> renamed;
-    renamed.reserve(argc);
+    QStringList arguments;
     bool needsNoDisplay = false;
-    for (int i = 1; i < argc; ++i) {
+    bool optionsEnded = false;
+    int kept = 1;
+    for (int i = 0; i < argc; ++i) {
         const QByteArray argument(argv[i]);
+        arguments.append(QString::fromLocal8Bit(argument));
+        if (i == 0)
+            continue;
         if (argument == "--")
-            break;
-        if (argument == "--platform" || argument.startsWith("--platform=")) {
-            renamed.push_back("--target" + argument.mid(10));
-            argv[i] = renamed.back().data();
-        }
-        if (argument == "--screenshots" || argument.startsWith("--screenshots=") || argument == "--help"
-            || argument == "--version")
+            optionsEnded = true;
+        // Qt takes "--platform" for its window-system plugin, so it must not see ours.
+        const bool ours = !optionsEnded && (argument == "--platform" || argument.startsWith("--platform="));
+        if (ours && argument == "--platform" && i + 1 < argc)
+            arguments.append(QString::fromLocal8Bit(argv[++i]));
+        if (!optionsEnded
+            && (argument == "--screenshots" || argument.startsWith("--screenshots=") || argument == "--help"
+                || argument == "--version"))
             needsNoDisplay = true;
+        if (!ours)
+            argv[kept++] = argv[i];
     }
+    argc = kept;
     if (needsNoDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    return arguments;
 }
 
 int Launcher::run(const QStringList& arguments)

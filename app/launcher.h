@@ -16,9 +16,10 @@ public:
     Launcher() = delete;
 
     // Before the application object exists, which would take some of our options for
-    // its own. argv must stay valid for the life of the application object.
-    static void prepareArguments(int argc, char** argv);
-    // arguments as QCoreApplication::arguments() gives them. Returns the exit code; runs
-    // the event loop unless the arguments ask for something else.
+    // its own: returns the whole command line for run() and leaves in argc/argv only
+    // what the application object may see.
+    static QStringList prepareArguments(int& argc, char** argv);
+    // arguments as prepareArguments() returned them. Returns the exit code; runs the
+    // event loop unless the arguments ask for something else.
     static int run(const QStringList& arguments);
 };

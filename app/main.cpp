@@ -4,10 +4,10 @@
 
 int main(int argc, char** argv)
 {
-    Launcher::prepareArguments(argc, argv);
+    const QStringList arguments = Launcher::prepareArguments(argc, argv);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Zelkon"));
     QApplication::setApplicationVersion(QStringLiteral(ZELKON_VERSION));
     QApplication::setOrganizationName(QStringLiteral("Tavlo"));
-    return Launcher::run(QApplication::arguments());
+    return Launcher::run(arguments);
 }

@@ -16,20 +16,20 @@ const QString Examples = QStringLiteral(ZELKON_EXAMPLES_DIR);
 // What the command line asks for, read as main() reads it, or why it is refused.
 QString understood(const QStringList& arguments)
 {
-    QStringList prepared = QStringList { "zelkon" } + arguments;
-    QList<QByteArray> bytes;
-    std::vector<char*> argv;
-    for (const QString& argument : qAsConst(prepared))
+    QList<QByteArray> bytes { "zelkon" };
+    for (const QString& argument : arguments)
         bytes.append(argument.toLocal8Bit());
+    std::vector<char*> argv;
     for (QByteArray& argument : bytes)
         argv.push_back(argument.data());
-    Launcher::prepareArguments(int(argv.size()), argv.data());
-    for (int i = 0; i < prepared.size(); ++i)
-        prepared[i] = QString::fromLocal8Bit(argv[i]);
+    int argc = int(argv.size());
+    const QStringList prepared = Launcher::prepareArguments(argc, argv.data());
     // Qt would take "--platform" for its window-system plugin.
-    for (const QString& argument : prepared.mid(0, prepared.indexOf(QStringLiteral("--")))) {
-        if (argument.startsWith(QStringLiteral("--platform")))
-            return QStringLiteral("left to Qt: ") + argument;
+    for (int i = 1; i < argc; ++i) {
+        if (QByteArray(argv[i]) == "--")
+            break;
+        if (QByteArray(argv[i]).startsWith("--platform"))
+            return QStringLiteral("left to Qt: ") + QString::fromLocal8Bit(argv[i]);
     }
 
     CommandLine commandLine;
@@ -66,12 +66,12 @@ void TestCommandLine::parses_data()
     QTest::newRow("file") << QStringList { "a.tavlocfg" } << "platform -1, file a.tavlocfg";
     QTest::newRow("platform") << QStringList { "--platform", "lunvex" } << "platform 0";
     QTest::newRow("platform= in capitals") << QStringList { "--platform=WES" } << "platform 1";
-    QTest::newRow("target") << QStringList { "--target", "wes7" } << "platform 2";
     QTest::newRow("everything") << QStringList { "--standalone", "--device-root", "dev", "--platform", "ce", "b.cfg" }
                                 << "platform 3, standalone, root dev, file b.cfg";
     QTest::newRow("file after --") << QStringList { "--", "--platform" } << "platform -1, file --platform";
     QTest::newRow("unknown platform") << QStringList { "--platform", "os2" } << "refused: Unknown platform \"os2\"";
-    QTest::newRow("platform without value") << QStringList { "--platform" } << "refused: Missing value";
+    QTest::newRow("platform without value")
+        << QStringList { "--platform" } << "refused: Missing value after '--platform'";
     QTest::newRow("unknown option") << QStringList { "--colour" } << "refused: Unknown option 'colour'";
     QTest::newRow("two files") << QStringList { "a.cfg", "b.cfg" } << "refused: Only one configuration file";
     QTest::newRow("empty device root") << QStringList { "--device-root=" } << "refused: --device-root needs";
@@ -99,7 +99,7 @@ void TestCommandLine::screenshotsRenderEveryPage()
     QCOMPARE(Launcher::run({ "zelkon", "--screenshots", shots, file + ".missing" }), 1);
     QVERIFY(!QFileInfo::exists(shots));
 
-    QCOMPARE(Launcher::run({ "zelkon", "--target", "wes7", "--standalone", "--device-root", Examples + "/device",
+    QCOMPARE(Launcher::run({ "zelkon", "--platform", "wes7", "--standalone", "--device-root", Examples + "/device",
                              "--screenshots", shots, file }),
              0);
     // The wizard starts on Lunvex, not standalone.

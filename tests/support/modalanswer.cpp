@@ -17,7 +17,7 @@ void ModalAnswer::arm()
 
 void ModalAnswer::poll(int attemptsLeft)
 {
-    QTimer::singleShot(10, [this, attemptsLeft] {
+    QTimer::singleShot(10, &m_pollContext, [this, attemptsLeft] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (!box) {
             if (attemptsLeft > 0)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMessageBox>
+#include <QObject>
 #include <QString>
 
 /*
@@ -24,6 +25,8 @@ public:
 private:
     void poll(int attemptsLeft);
 
+    // Owns the pending poll, so that a box that never came cannot call into a dead object.
+    QObject m_pollContext;
     QMessageBox::StandardButton m_answer;
     bool m_answered = false;
     QString m_title;
