@@ -45,8 +45,7 @@ public:
     bool containsAtom(const QString& name) const;
     bool deleteAtom(const QString& name);
     QList<ConfigAtom*> atoms() const;
-
-protected:
+    // The first child of that name, or null; unlike atom() it never changes the tree.
     ConfigAtom* findAtom(const QString& name) const;
 
 private:

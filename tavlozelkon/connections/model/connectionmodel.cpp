@@ -145,17 +145,6 @@ void writeFields(ConfigFile* config, const ConfigAtom* atom, const QList<Field>&
     }
 }
 
-// The child without creating it: saving must not change the model.
-const ConfigAtom* existingAtom(const ConfigAtom* parent, const QString& name)
-{
-    const QList<ConfigAtom*> children = parent->atoms();
-    for (const ConfigAtom* child : children) {
-        if (child->name() == name)
-            return child;
-    }
-    return nullptr;
-}
-
 QString translated(const char* text)
 {
     return QCoreApplication::translate("ConnectionModel", text);
@@ -333,7 +322,7 @@ void ConnectionModel::saveType(ConfigFile* config, const QString& key)
     if (layout.generalSettings) {
         config->addNode(QStringLiteral("general_settings"));
         config->addNode(proxy);
-        writeFields(config, existingAtom(kind, QStringLiteral("general_settings")), proxyFields(), false);
+        writeFields(config, kind->findAtom(QStringLiteral("general_settings")), proxyFields(), false);
         config->leaveNode();
         config->leaveNode();
     }
@@ -345,7 +334,7 @@ void ConnectionModel::saveType(ConfigFile* config, const QString& key)
         writeFields(config, session, layout.sessionFields, true);
         if (layout.sessionProxy) {
             config->addNode(proxy);
-            writeFields(config, existingAtom(session, proxy), proxyFields(), false);
+            writeFields(config, session->findAtom(proxy), proxyFields(), false);
             config->leaveNode();
         }
         config->leaveNode();
