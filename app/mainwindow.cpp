@@ -269,9 +269,6 @@ void MainWindow::createPages()
     connect(m_summaryPage, &ZelkonSummaryPage::generateConfig, m_document, &DocumentController::generate);
     connect(m_summaryPage, &ZelkonSummaryPage::saveConfig, this, &MainWindow::save);
     connect(m_summaryPage, &ZelkonSummaryPage::applyConfig, this, &MainWindow::applyToDevice);
-    // The page centres a small summary between stretches; here it gets the room there is.
-    if (auto* summaryLayout = qobject_cast<QBoxLayout*>(m_summaryPage->layout()))
-        summaryLayout->setStretchFactor(m_summaryPage->summaryView(), 1);
     QPushButton* saveButton = m_summaryPage->saveButton();
     m_buttonRow->insertWidget(0, saveButton);
     saveButton->setIcon(QApplication::style()->standardIcon(QStyle::SP_DialogSaveButton));
@@ -510,8 +507,7 @@ bool MainWindow::maybeSave()
 {
     if (!isWindowModified())
         return true;
-    const QString name
-        = m_document->filePath().isEmpty() ? tr("Untitled") : QFileInfo(m_document->filePath()).fileName();
+    const QString name = documentName();
     const QMessageBox::StandardButton answer = QMessageBox::warning(
         this, tr("Zelkon"), tr("The configuration \"%1\" has unsaved changes.\nDo you want to save them?").arg(name),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
@@ -535,13 +531,17 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::updateWindowTitle()
 {
-    const QString name
-        = m_document->filePath().isEmpty() ? tr("Untitled") : QFileInfo(m_document->filePath()).fileName();
+    const QString name = documentName();
     setWindowTitle(tr("%1[*] - Zelkon").arg(name));
     // The name is what a user recognises; the whole path is a hover away.
     m_currentFileLabel->setText(m_document->filePath().isEmpty() ? tr("Configuration: a new one, not saved yet.")
                                                                  : tr("Configuration: %1").arg(name));
     m_currentFileLabel->setToolTip(m_document->filePath().isEmpty() ? QString() : nativePath(m_document->filePath()));
+}
+
+QString MainWindow::documentName() const
+{
+    return m_document->filePath().isEmpty() ? tr("Untitled") : QFileInfo(m_document->filePath()).fileName();
 }
 
 QString MainWindow::startDirectory() const

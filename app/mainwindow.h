@@ -93,6 +93,7 @@ private:
     void refreshPageFrame();
     void updateWindowTitle();
     bool maybeSave();
+    QString documentName() const;
     QString startDirectory() const;
 
     DocumentController* m_document;
