@@ -272,12 +272,16 @@ bool ConfigFile::load(QString path)
     if ((Platform::isCe() || Platform::isWes()) && !Platform::isStandalone())
         createDefaultConfigFile();
 
+    // Binary on purpose: text mode drops every 0x0D byte, which is half of a character in
+    // UTF-16 ("\r" and letters such as U+010D alike). The XML parser detects the encoding
+    // and normalises line ends itself.
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (!file.open(QIODevice::ReadOnly))
         return false;
     const QByteArray content = file.readAll();
     file.close();
-    if (setContent(content, true)) {
+    const bool parsed = setContent(content, true);
+    if (parsed) {
         m_attributeOrder->record(*this, content);
     } else {
         // Qt keeps what it parsed up to the error; half a configuration is worse than none.
@@ -285,7 +289,8 @@ bool ConfigFile::load(QString path)
         m_attributeOrder->clear();
     }
     m_currentNode = documentElement();
-    return true;
+    // A file that did not parse left an empty document, which is no successful load.
+    return parsed;
 }
 
 bool ConfigFile::save(const QString& path)

@@ -21,6 +21,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTextBrowser>
+#include <QTextCodec>
 #include <QtTest>
 #include <memory>
 
@@ -189,6 +190,13 @@ void TestMainWindow::walkEditSaveAndReopen_data()
     for (const QString& name : QDir(Examples).entryList({ QStringLiteral("*.tavlocfg") }))
         QTest::newRow(qPrintable(name)) << name << readAll(Examples + '/' + name);
     QTest::newRow("mixed") << QStringLiteral("mixed.tavlocfg") << Mixed;
+    // As a Windows editor may leave a file: UTF-16 with a byte-order mark and CRLF line ends.
+    QString windows = QString::fromUtf8(Mixed).replace(QLatin1String("\n"), QLatin1String("\r\n"));
+    windows.replace(QLatin1String("Laser"), QStringLiteral("Laser \u010d"));
+    QTextEncoder utf16(QTextCodec::codecForName("UTF-16LE"), QTextCodec::DefaultConversion);
+    QTest::newRow("UTF-16, CRLF") << QStringLiteral("utf16.tavlocfg")
+                                  << utf16.fromUnicode(QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-16\"?>\r\n")
+                                                       + windows);
 }
 
 void TestMainWindow::walkEditSaveAndReopen()

@@ -3,6 +3,7 @@
 #include "modalanswer.h"
 #include "platform.h"
 
+#include <QTextCodec>
 #include <QtTest>
 
 namespace {
@@ -186,6 +187,64 @@ private slots:
         QCOMPARE(tool.runs().size(), fetches ? 1 : 0);
         if (fetches)
             QCOMPARE(tool.runs().first().arguments, (QStringList { "-settings", "default.tavlocfg", "-get", "all" }));
+    }
+
+    // Whatever encoding a conforming XML reader accepts loads whole, and survives a save.
+    void encodingsLoadWhole_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        // "č" is U+010D: in UTF-16 one of its bytes is 0x0D, a carriage return's.
+        const QString text = QStringLiteral("<?xml version=\"1.0\" encoding=\"%1\"?>\r\n"
+                                            "<zelkon version=\"1.0\">\r\n <keyboard>\r\n"
+                                            "  <layout>Čeština \u010d</layout>\r\n </keyboard>\r\n</zelkon>\r\n");
+        const auto encoded = [&text](const char* name, const char* declared, bool byteOrderMark) {
+            QTextCodec* codec = QTextCodec::codecForName(name);
+            QTextEncoder encoder(codec, byteOrderMark ? QTextCodec::DefaultConversion : QTextCodec::IgnoreHeader);
+            return encoder.fromUnicode(text.arg(QLatin1String(declared)));
+        };
+        QTest::newRow("UTF-8, CRLF") << encoded("UTF-8", "utf-8", false);
+        QTest::newRow("UTF-8 with BOM") << QByteArray("\xEF\xBB\xBF") + encoded("UTF-8", "utf-8", false);
+        QTest::newRow("UTF-16LE with BOM, CRLF") << encoded("UTF-16LE", "UTF-16", true);
+        QTest::newRow("UTF-16BE with BOM, CRLF") << encoded("UTF-16BE", "UTF-16", true);
+        QTest::newRow("UTF-16 declared, little-endian BOM")
+            << QByteArray("\xFF\xFE") + encoded("UTF-16LE", "UTF-16", false);
+        QTest::newRow("ISO-8859-2") << encoded("ISO-8859-2", "ISO-8859-2", false);
+    }
+
+    void encodingsLoadWhole()
+    {
+        QFETCH(QByteArray, bytes);
+        const QString expected = QStringLiteral("Čeština \u010d");
+        writeFile(QStringLiteral("foreign.tavlocfg"), bytes);
+
+        ConfigFile config;
+        QVERIFY(config.load(QStringLiteral("foreign.tavlocfg")));
+        QCOMPARE(config.value(QStringLiteral("layout")), expected);
+
+        // Written in the declared encoding, read back the same.
+        QVERIFY(config.save(QStringLiteral("saved.tavlocfg")));
+        ConfigFile reread;
+        QVERIFY(reread.load(QStringLiteral("saved.tavlocfg")));
+        QCOMPARE(reread.value(QStringLiteral("layout")), expected);
+    }
+
+    // Nothing that lost the file's content counts as loaded.
+    void brokenFilesDoNotLoad_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("cut short") << QByteArray("<zelkon><keyboard><layout>Norway</layout>");
+        QTest::newRow("UTF-16 cut short")
+            << QTextCodec::codecForName("UTF-16LE")->fromUnicode(QStringLiteral("\uFEFF<zelkon><a>\u010d</a>"));
+        QTest::newRow("not XML") << QByteArray("[keyboard]\nlayout=Norway\n");
+    }
+
+    void brokenFilesDoNotLoad()
+    {
+        QFETCH(QByteArray, bytes);
+        writeFile(QStringLiteral("broken.tavlocfg"), bytes);
+        ConfigFile config;
+        QVERIFY(!config.load(QStringLiteral("broken.tavlocfg")));
+        QCOMPARE(config.value(QStringLiteral("layout")), QString());
     }
 
     void apply()
