@@ -1,0 +1,54 @@
+#include "buttondelegate.h"
+
+#include <QAction>
+#include <QIcon>
+#include <QToolButton>
+
+ButtonDelegate::ButtonDelegate(ButtonRole_t role, QObject* parent)
+    : QItemDelegate(parent)
+    , m_role(role)
+{
+}
+
+ButtonDelegate::~ButtonDelegate() = default;
+
+QWidget* ButtonDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const
+{
+    auto* button = new QToolButton(parent);
+    button->setObjectName(QStringLiteral("ListButton"));
+    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    button->setAutoRaise(true);
+
+    auto* action = new QAction(button);
+    action->setData(index.data(Qt::EditRole));
+    auto* self = const_cast<ButtonDelegate*>(this);
+    switch (m_role) {
+    case EditButton:
+        action->setIcon(QIcon(QStringLiteral(":/editIcon")));
+        action->setToolTip(tr("Edit the connection"));
+        connect(button, &QToolButton::triggered, self, qOverload<QAction*>(&ButtonDelegate::editConnection));
+        break;
+    case DeleteButton:
+        action->setIcon(QIcon(QStringLiteral(":/deleteIcon")));
+        action->setToolTip(tr("Delete the connection"));
+        connect(button, &QToolButton::triggered, self, qOverload<QAction*>(&ButtonDelegate::deleteConnection));
+        break;
+    }
+    button->setDefaultAction(action);
+    return button;
+}
+
+QSize ButtonDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const
+{
+    return QSize(0, 0);
+}
+
+void ButtonDelegate::editConnection(QAction* action)
+{
+    emit editConnection(action->data().toString());
+}
+
+void ButtonDelegate::deleteConnection(QAction* action)
+{
+    emit deleteConnection(action->data().toString());
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "tavlozelkon_lib_export.h"
+
+#include <QItemDelegate>
+
+class QAction;
+
+/*
+ * Puts a small tool button into a table cell (as a persistent editor) that edits or
+ * deletes the record whose id the cell holds. The connection list and the printer list
+ * both use it; the signals carry the id, whatever kind of record it names.
+ */
+class TAVLOZELKON_LIB_EXPORT ButtonDelegate : public QItemDelegate
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(ButtonDelegate)
+
+public:
+    enum ButtonRole_t { EditButton = 1, DeleteButton = 2 };
+    Q_ENUM(ButtonRole_t)
+
+    explicit ButtonDelegate(ButtonRole_t role, QObject* parent = nullptr);
+    ~ButtonDelegate() override;
+
+    ButtonRole_t role() const { return m_role; }
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    // The column takes the size of the button, not of the id text behind it.
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+signals:
+    void editConnection(QString id);
+    void deleteConnection(QString id);
+
+public slots:
+    void editConnection(QAction* action);
+    void deleteConnection(QAction* action);
+
+private:
+    ButtonRole_t m_role;
+};
