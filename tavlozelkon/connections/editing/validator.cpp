@@ -1,0 +1,8 @@
+#include "validator.h"
+
+#include "connectionnamevalidator.h"
+
+QValidator* Validator::connectionName(QObject* parent)
+{
+    return new ConnectionNameValidator(parent);
+}
