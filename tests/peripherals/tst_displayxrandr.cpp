@@ -1,3 +1,4 @@
+#include "peripherals/displayframe.h"
 #include "peripherals/xrandrscreenmode.h"
 
 #include <QElapsedTimer>
@@ -133,9 +134,9 @@ void TestDisplayXrandr::failsQuietlyWithoutAServer()
     int width = -1;
     int height = -1;
     int rate = -1;
-    QVERIFY(!XrandrScreenMode::query(":0", nullptr, &height, &rate));
-    QVERIFY(!XrandrScreenMode::query(":0", &width, nullptr, &rate));
-    QVERIFY(!XrandrScreenMode::query(":0", &width, &height, nullptr));
+    QVERIFY(!DisplayFrame::getCurrentSettings(nullptr, &height, &rate, nullptr));
+    QVERIFY(!DisplayFrame::getCurrentSettings(&width, nullptr, &rate, nullptr));
+    QVERIFY(!DisplayFrame::getCurrentSettings(&width, &height, nullptr, nullptr));
 
     // Only a local socket is tried for this name, and no server listens there.
     if (QFile::exists(QStringLiteral("/tmp/.X11-unix/X4321")))
