@@ -170,10 +170,10 @@ QStringList DisplayFrame::enumSupportedResolutions()
     return DisplayPreferences().resolutions();
 }
 
-QStringList DisplayFrame::mergeStringLists(QStringList& a, QStringList& b)
+QStringList DisplayFrame::mergeStringLists(const QStringList& a, const QStringList& b)
 {
     QStringList merged;
-    for (const QString& item : qAsConst(a)) {
+    for (const QString& item : a) {
         if (b.contains(item))
             merged.append(item);
     }
@@ -182,8 +182,8 @@ QStringList DisplayFrame::mergeStringLists(QStringList& a, QStringList& b)
 
 void DisplayFrame::populateResolution()
 {
-    QStringList defaults = getDefaultResolutions();
-    QStringList supported = enumSupportedResolutions();
+    const QStringList defaults = getDefaultResolutions();
+    const QStringList supported = enumSupportedResolutions();
     // What the machine supports beyond the defaults is never offered.
     QStringList list = supported.isEmpty() ? defaults : mergeStringLists(defaults, supported);
     if (Platform::isLunvex())

@@ -41,7 +41,7 @@ public:
     // The resolutions the machine's display preference file lists.
     static QStringList enumSupportedResolutions();
     // The items of a, in a's order, that b also holds.
-    static QStringList mergeStringLists(QStringList& a, QStringList& b);
+    static QStringList mergeStringLists(const QStringList& a, const QStringList& b);
 
     // The current mode of the X screen ":0"; rotation, when given, receives the RandR
     // rotation. Not used by the wizard itself (it configures a target, not this
