@@ -1,6 +1,7 @@
 #include "zelkonperipheralpage.h"
 
 #include "device/externaltool.h"
+#include "peripherals/displayframe.h"
 
 #include "accordionitem.h"
 #include "platform.h"
@@ -22,8 +23,7 @@ void ZelkonPeripheralPage::setup()
 
 void ZelkonPeripheralPage::createItems()
 {
-    // The display, power, wireless, sound and USB frames are added here, in that order,
-    // each with addPeripheralFrame().
+    addPeripheralFrame(Peripheral::Display, new DisplayFrame(this));
 }
 
 AccordionItem* ZelkonPeripheralPage::addPeripheralFrame(Peripheral peripheral, ConfigFrame* frame)
