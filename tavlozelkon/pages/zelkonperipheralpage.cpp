@@ -1,6 +1,10 @@
 #include "zelkonperipheralpage.h"
 
 #include "device/externaltool.h"
+#include "peripherals/powerframe.h"
+#include "peripherals/soundframe.h"
+#include "peripherals/usbframe.h"
+#include "peripherals/wirelessframe.h"
 
 #include "accordionitem.h"
 #include "platform.h"
@@ -22,8 +26,11 @@ void ZelkonPeripheralPage::setup()
 
 void ZelkonPeripheralPage::createItems()
 {
-    // The display, power, wireless, sound and USB frames are added here, in that order,
-    // each with addPeripheralFrame().
+
+    addPeripheralFrame(Peripheral::Power, new PowerFrame(this));
+    addPeripheralFrame(Peripheral::Wireless, new WirelessFrame(this));
+    addPeripheralFrame(Peripheral::Sound, new SoundFrame(this));
+    addPeripheralFrame(Peripheral::Usb, new UsbFrame(this));
 }
 
 AccordionItem* ZelkonPeripheralPage::addPeripheralFrame(Peripheral peripheral, ConfigFrame* frame)
