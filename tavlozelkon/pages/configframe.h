@@ -43,6 +43,8 @@ protected:
     // adding it when missing; the frame writes its values and calls leaveSection().
     bool enterSectionForSave(ConfigFile* config, const QString& section);
     void leaveSection(ConfigFile* config);
+    // Withdraws the frame's changes from the next save, silently.
+    void clearDirty() { m_dirty = false; }
 
 private:
     bool m_dirty = false;

@@ -2,6 +2,10 @@
 
 #include "device/externaltool.h"
 #include "peripherals/displayframe.h"
+#include "peripherals/powerframe.h"
+#include "peripherals/soundframe.h"
+#include "peripherals/usbframe.h"
+#include "peripherals/wirelessframe.h"
 
 #include "accordionitem.h"
 #include "platform.h"
@@ -24,6 +28,10 @@ void ZelkonPeripheralPage::setup()
 void ZelkonPeripheralPage::createItems()
 {
     addPeripheralFrame(Peripheral::Display, new DisplayFrame(this));
+    addPeripheralFrame(Peripheral::Power, new PowerFrame(this));
+    addPeripheralFrame(Peripheral::Wireless, new WirelessFrame(this));
+    addPeripheralFrame(Peripheral::Sound, new SoundFrame(this));
+    addPeripheralFrame(Peripheral::Usb, new UsbFrame(this));
 }
 
 AccordionItem* ZelkonPeripheralPage::addPeripheralFrame(Peripheral peripheral, ConfigFrame* frame)
