@@ -1,0 +1,53 @@
+#include "sessioneditorparts.h"
+
+#include "connections/model/connectionmodel.h"
+
+#include <QCoreApplication>
+#include <QFontMetrics>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+
+namespace SessionEditorParts {
+
+QHBoxLayout* headerRow(const QString& type, QLabel* header)
+{
+    auto* icon = new QLabel;
+    icon->setObjectName(QStringLiteral("IconLabel"));
+    icon->setPixmap(ConnectionModel::sGetConnectionTypeIcon(type, 32).pixmap(32, 32));
+    QFont font = header->font();
+    font.setBold(true);
+    header->setFont(font);
+
+    auto* row = new QHBoxLayout;
+    row->addWidget(icon);
+    row->addWidget(header, 10, Qt::AlignLeft);
+    return row;
+}
+
+void setMinimumWidthFor(QLineEdit* edit, const QString& sample)
+{
+    edit->setMinimumWidth(QFontMetrics(edit->font()).horizontalAdvance(sample));
+}
+
+QString boolText(bool value)
+{
+    return value ? QStringLiteral("true") : QStringLiteral("false");
+}
+
+bool checkFilled(QWidget* editor, QLineEdit* field, const QString& label)
+{
+    if (!field->text().isEmpty())
+        return true;
+    field->setFocus();
+    field->setStyleSheet(QStringLiteral("background-color: white"));
+    QMessageBox box(
+        QMessageBox::Critical, editor->windowTitle(),
+        QCoreApplication::translate("SessionEditorParts", "<center>The field '%1' is mandatory.</center>").arg(label),
+        QMessageBox::Ok, editor, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    box.exec();
+    return false;
+}
+
+} // namespace SessionEditorParts
