@@ -33,7 +33,6 @@ TimeZoneFrame::TimeZoneFrame(QWidget* parent)
     , m_areaCombo(new QComboBox(this))
     , m_cityLabel(new QLabel(this))
     , m_cityCombo(new QComboBox(this))
-    , m_zoneLabel(new QLabel(this))
     , m_zoneCombo(new QComboBox(this))
 {
     m_areaCombo->setObjectName(QStringLiteral("TimeZoneAreaCombo"));
@@ -51,17 +50,20 @@ TimeZoneFrame::TimeZoneFrame(QWidget* parent)
     m_zoneCombo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_areaLabel->setBuddy(m_areaCombo);
     m_cityLabel->setBuddy(m_cityCombo);
-    m_zoneLabel->setBuddy(m_zoneCombo);
 
     auto* layout = new QFormLayout(this);
     layout->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     layout->addRow(m_areaLabel, m_areaCombo);
     layout->addRow(m_cityLabel, m_cityCombo);
-    layout->addRow(m_zoneLabel, m_zoneCombo);
+    // The frame's title names the one Windows list; without a label it has the width
+    // its long display names need.
+    layout->addRow(m_zoneCombo);
 
     connect(m_areaCombo, qOverload<int>(&QComboBox::currentIndexChanged), this, &TimeZoneFrame::changeArea);
     connect(m_cityCombo, qOverload<int>(&QComboBox::currentIndexChanged), this, &ConfigFrame::setDirty);
     connect(m_zoneCombo, qOverload<int>(&QComboBox::currentIndexChanged), this, &ConfigFrame::setDirty);
+    // A narrow window cuts the longest names short; the tip shows them whole.
+    connect(m_zoneCombo, &QComboBox::currentTextChanged, m_zoneCombo, &QWidget::setToolTip);
     connect(Platform::instance(), &Platform::platformChange, this, &TimeZoneFrame::updatePlatformOptions);
 
     updatePlatformOptions();
@@ -89,7 +91,7 @@ void TimeZoneFrame::retranslateUi()
 {
     m_areaLabel->setText(tr("&Area:"));
     m_cityLabel->setText(tr("&City:"));
-    m_zoneLabel->setText(tr("&Time zone:"));
+    m_zoneCombo->setAccessibleName(tr("Time zone"));
 }
 
 void TimeZoneFrame::updatePlatformOptions()
@@ -98,7 +100,6 @@ void TimeZoneFrame::updatePlatformOptions()
     for (QWidget* widget : { static_cast<QWidget*>(m_areaLabel), static_cast<QWidget*>(m_areaCombo),
                              static_cast<QWidget*>(m_cityLabel), static_cast<QWidget*>(m_cityCombo) })
         widget->setVisible(lunvex);
-    m_zoneLabel->setVisible(!lunvex);
     m_zoneCombo->setVisible(!lunvex);
 
     if (lunvex)

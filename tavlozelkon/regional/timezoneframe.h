@@ -58,6 +58,5 @@ private:
     QComboBox* m_areaCombo;
     QLabel* m_cityLabel;
     QComboBox* m_cityCombo;
-    QLabel* m_zoneLabel;
     QComboBox* m_zoneCombo;
 };
