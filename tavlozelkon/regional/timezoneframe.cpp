@@ -97,8 +97,7 @@ void TimeZoneFrame::retranslateUi()
 void TimeZoneFrame::updatePlatformOptions()
 {
     const bool lunvex = Platform::isLunvex();
-    for (QWidget* widget : { static_cast<QWidget*>(m_areaLabel), static_cast<QWidget*>(m_areaCombo),
-                             static_cast<QWidget*>(m_cityLabel), static_cast<QWidget*>(m_cityCombo) })
+    for (QWidget* widget : QList<QWidget*> { m_areaLabel, m_areaCombo, m_cityLabel, m_cityCombo })
         widget->setVisible(lunvex);
     m_zoneCombo->setVisible(!lunvex);
 
@@ -171,6 +170,7 @@ void TimeZoneFrame::fillWindowsList()
     }
     m_zoneCombo->addItems(names);
     chooseText(m_zoneCombo, previous, fallback);
+    m_zoneCombo->setToolTip(m_zoneCombo->currentText());
 }
 
 QString TimeZoneFrame::WES7TimeZoneMapping(const QString& text, bool toId) const

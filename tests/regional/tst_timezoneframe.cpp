@@ -111,6 +111,7 @@ void TestTimeZoneFrame::windowsLists()
     QVERIFY(!list.contains(QStringLiteral("OVERFLOW CHECK")));
     QCOMPARE(list.removeDuplicates(), 0);
     QTEST(frame.zoneComboBox()->currentText(), "chosen");
+    QTEST(frame.zoneComboBox()->toolTip(), "chosen");
     QVERIFY(!frame.zoneComboBox()->isHidden());
     QVERIFY(frame.areaComboBox()->isHidden() && frame.cityComboBox()->isHidden());
 }
