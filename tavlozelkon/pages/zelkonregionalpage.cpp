@@ -1,5 +1,9 @@
 #include "zelkonregionalpage.h"
 
+#include "regional/keyboardframe.h"
+#include "regional/localeframe.h"
+#include "regional/timezoneframe.h"
+
 ZelkonRegionalPage::ZelkonRegionalPage(QWidget* parent)
     : ConfigPage(parent)
 {
@@ -15,7 +19,9 @@ void ZelkonRegionalPage::setup()
 
 void ZelkonRegionalPage::createItems()
 {
-    // The time zone, keyboard and locale frames are added here, in that order.
+    addFrame(new TimeZoneFrame(this));
+    addFrame(new KeyboardFrame(this));
+    addFrame(new LocaleFrame(this));
 }
 
 QString ZelkonRegionalPage::title() const

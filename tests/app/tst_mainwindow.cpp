@@ -119,7 +119,7 @@ private:
     SectionFrame* keyboard() const
     {
         const ConfigPage* regional = m_window->containerPages().constFirst();
-        return static_cast<SectionFrame*>(regional->accordion()->items().constFirst()->content());
+        return static_cast<SectionFrame*>(regional->accordion()->items().constLast()->content());
     }
 
     std::unique_ptr<QTemporaryDir> m_dir;
@@ -144,7 +144,7 @@ void TestMainWindow::init()
 
     m_window = std::make_unique<MainWindow>();
     m_window->setFileChooser(std::unique_ptr<FileChooser>(m_chooser = new ScriptedChooser));
-    // Until the real frames exist, stand-ins on the regional and connections pages, added
+    // Stand-ins after the real frames of the regional and connections pages, added
     // every time the window builds its pages.
     auto addFrames = [this] {
         const QList<ConfigPage*> pages = m_window->containerPages();
@@ -225,7 +225,7 @@ void TestMainWindow::walkEditSaveAndReopen()
         if (index == MainWindow::RegionalPage) {
             // Opening a frame adds its help to the page's.
             auto* page = static_cast<ConfigPage*>(m_window->page(index));
-            page->accordion()->selectItem(page->accordion()->items().constFirst());
+            page->accordion()->selectItem(page->accordion()->items().constLast());
             QVERIFY(m_window->helpView()->toPlainText().endsWith(QStringLiteral("Help of keyboard")));
             keyboard()->setText(QStringLiteral("Norway"));
         }
