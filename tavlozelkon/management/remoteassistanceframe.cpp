@@ -27,8 +27,6 @@ void RemoteAssistanceFrame::setup()
     // been laid out.
     grid()->addWidget(m_passwordLabel, 1, 0, 1, 3);
     grid()->addWidget(m_password, 1, 1, 1, 3);
-    // Above the label that overlaps it, so that a click anywhere on the edit reaches it.
-    m_password->raise();
 
     addTextValue(QStringLiteral("password"), m_password);
     // After the base's setDirty(), so the change is recorded before the focus moves.
@@ -63,4 +61,6 @@ void RemoteAssistanceFrame::retranslateUi()
 {
     ManagementFrame::retranslateUi();
     m_passwordLabel->setText(tr("Password:"));
+    // The label shares its columns with the edit; the first column must still hold its text.
+    grid()->setColumnMinimumWidth(0, m_passwordLabel->sizeHint().width());
 }
