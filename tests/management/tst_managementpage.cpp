@@ -149,18 +149,6 @@ private slots:
         QVERIFY(!fresh.findNode(QStringLiteral("pellam"), 0));
     }
 
-    void helpOfTheOpenAgentFollowsThePage()
-    {
-        ZelkonManagementPage page;
-        QSignalSpy help(&page, &ConfigPage::helpChanged);
-        page.accordion()->selectItem(page.item(Tool::Corrand));
-        QVERIFY(!help.isEmpty());
-        const QString text = help.last().at(0).toString();
-        QVERIFY(text.startsWith(page.helpText().section(QStringLiteral("<br>"), 0, 0)));
-        QVERIFY(text.endsWith(QStringLiteral("<br>") + page.item(Tool::Corrand)->content()->helpText()));
-        QVERIFY(text.contains(QStringLiteral("href=\"https://www.corrand.example/")));
-    }
-
     // A host that places the Altiris frame on a page of its own gets its section round-tripped.
     void hostPageRoundTripsAltiris()
     {
