@@ -1,6 +1,10 @@
 #include "zelkonmanagementpage.h"
 
 #include "device/machineroot.h"
+#include "management/autoupdateframe.h"
+#include "management/corrandframe.h"
+#include "management/pellamframe.h"
+#include "management/remoteassistanceframe.h"
 
 #include "accordionitem.h"
 #include "platform.h"
@@ -22,8 +26,10 @@ void ZelkonManagementPage::setup()
 
 void ZelkonManagementPage::createItems()
 {
-    // The Corrand, Pellam, automatic update and remote assistance frames are added here,
-    // in that order, each with addToolFrame().
+    addToolFrame(Tool::Corrand, new CorrandFrame(this));
+    addToolFrame(Tool::Pellam, new PellamFrame(this));
+    addToolFrame(Tool::AutoUpdate, new AutoUpdateFrame(this));
+    addToolFrame(Tool::RemoteAssistance, new RemoteAssistanceFrame(this));
 }
 
 AccordionItem* ZelkonManagementPage::addToolFrame(Tool tool, ConfigFrame* frame)
