@@ -1,6 +1,7 @@
 #include "documentcontroller.h"
 
 #include "configfilecheck.h"
+#include "emptyvalueholders.h"
 
 #include "config/configfile.h"
 #include "pages/configpage.h"
@@ -82,12 +83,14 @@ void DocumentController::generate()
     m_generated->replaceChild(copy, oldRoot);
     m_generated->setCurrentNodeAsRoot();
 
+    EmptyValueHolders holders(m_generated->documentElement());
     for (ConfigPage* page : qAsConst(m_pages)) {
         if (!page)
             continue;
         m_generated->setCurrentNodeAsRoot();
         page->saveConfig(m_generated.get());
     }
+    holders.removeUnused();
 
     QDomElement generatedRoot = m_generated->documentElement();
     tidySections(loadedRoot, generatedRoot);
