@@ -29,6 +29,8 @@ NetworkPrinterListPage::NetworkPrinterListPage(PrinterModel& model, QWidget* par
     m_table->horizontalHeader()->hide();
     m_table->verticalHeader()->hide();
     m_table->setShowGrid(false);
+    // Wrapping would hide a long line's second half below the row and elide what is left.
+    m_table->setWordWrap(false);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->horizontalHeader()->setSectionResizeMode(SummaryColumn, QHeaderView::Stretch);
