@@ -69,8 +69,8 @@ void DocumentController::loadPages()
  * again (the summary is regenerated every time it is shown) would therefore pile up
  * sections. Each generation starts instead from a fresh copy of the loaded document, so
  * that it can be repeated at will, and so that whatever no page writes (sections of
- * connection types this machine cannot launch, "altiris", "network_printer", sections
- * this wizard does not know) is saved exactly as it was loaded.
+ * connection types this machine cannot launch, "altiris", sections this wizard does not
+ * know) is saved exactly as it was loaded.
  *
  * tidySections() then resolves what writers that append rather than replace leave
  * behind, and keeps the loaded file's section order.

@@ -2,6 +2,7 @@
 
 #include "documentcontroller.h"
 #include "filechooser.h"
+#include "hostedprinterframe.h"
 
 #include "config/configfile.h"
 #include "pages/configpage.h"
@@ -319,8 +320,12 @@ QWidget* MainWindow::createTitleArea()
 
 void MainWindow::buildContainerPages()
 {
+    // No page of the library places the printer frame; printers are devices the client
+    // uses, so the wizard offers them after the other peripherals.
+    auto* peripherals = new ZelkonPeripheralPage;
+    HostedPrinterFrame::addTo(peripherals);
     const QList<WizardPage*> pages
-        = { new ZelkonRegionalPage, new ZelkonManagementPage, new ZelkonPeripheralPage, new ZelkonConnectionsPage };
+        = { new ZelkonRegionalPage, new ZelkonManagementPage, peripherals, new ZelkonConnectionsPage };
     for (int i = 0; i < pages.size(); ++i) {
         const int index = RegionalPage + i;
         m_pages[index] = pages.at(i);
