@@ -1,6 +1,6 @@
 #include "networkprintereditor.h"
 
-#include "portvalidator.h"
+#include "connections/editing/portvalidator.h"
 #include "printermodel.h"
 
 #include "flagifinvalid.h"
@@ -28,7 +28,7 @@ NetworkPrinterEditor::NetworkPrinterEditor(const QString& id, PrinterModel& mode
     // Host names and addresses, URLs (ipp://host:631/queue) and Windows shares (\\server\queue).
     m_serverEdit->setValidator(
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[/:\\\\a-zA-Z0-9.-]+")), m_serverEdit));
-    m_portEdit->setValidator(new PortValidator(m_portEdit));
+    m_portEdit->setValidator(new PortValidator(PortValidator::LargestPort, m_portEdit));
 
     m_saveButton = new QPushButton(this);
     m_saveButton->setObjectName(QStringLiteral("SaveButton"));

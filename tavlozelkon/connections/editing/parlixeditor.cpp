@@ -181,8 +181,8 @@ QGroupBox* ParlixEditor::createTcpIpPage()
     m_tcpHost = addField(grid, m_tcpHostLabel, QStringLiteral("TcpHostEdit"));
     m_tcpPortLabel = new QLabel;
     m_tcpPort = addPortField(grid, m_tcpPortLabel, QStringLiteral("TcpPortEdit"), QStringLiteral("123456789"));
-    m_tcpLocalPort->setValidator(new PortValidator(m_tcpLocalPort));
-    m_tcpPort->setValidator(new PortValidator(m_tcpPort));
+    m_tcpLocalPort->setValidator(new PortValidator(PortValidator::ConnectionPortTop, m_tcpLocalPort));
+    m_tcpPort->setValidator(new PortValidator(PortValidator::ConnectionPortTop, m_tcpPort));
     return finishGroup(m_tcpIpPage);
 }
 

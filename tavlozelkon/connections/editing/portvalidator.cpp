@@ -1,7 +1,7 @@
 #include "portvalidator.h"
 
-PortValidator::PortValidator(QObject* parent)
-    : QIntValidator(0, 65536, parent)
+PortValidator::PortValidator(int top, QObject* parent)
+    : QIntValidator(0, top, parent)
 {
 }
 

@@ -23,7 +23,7 @@ ProxyFields::ProxyFields(QWidget* parent)
     m_port->setObjectName(QStringLiteral("ProxyPortEdit"));
     m_addressLabel->setBuddy(m_address);
     m_portLabel->setBuddy(m_port);
-    m_port->setValidator(new PortValidator(m_port));
+    m_port->setValidator(new PortValidator(PortValidator::ConnectionPortTop, m_port));
     SessionEditorParts::setMinimumWidthFor(m_port, QStringLiteral("123456789"));
 
     auto* grid = new QGridLayout(this);
