@@ -58,10 +58,8 @@ ConnectionListPage::ConnectionListPage(ConnectionModel& model, QWidget* parent)
     layout->addWidget(m_kioskCheck);
     layout->addWidget(m_newButton, 0, Qt::AlignHCenter);
 
-    // Queued: the rename rebuilds the table, which must not happen while the cell's own
-    // editor is still committing, and may open a message box.
     connect(nameDelegate, &ConnectionNameDelegate::connectionNameChanged, this,
-            &ConnectionListPage::changeConnectionName, Qt::QueuedConnection);
+            &ConnectionListPage::changeConnectionName);
     connect(editDelegate, qOverload<QString>(&ButtonDelegate::editConnection), this,
             &ConnectionListPage::editConnection);
     connect(deleteDelegate, qOverload<QString>(&ButtonDelegate::deleteConnection), this,
@@ -146,7 +144,7 @@ void ConnectionListPage::appendRow(const QString& type, const ConnectionSession&
 
 void ConnectionListPage::changeConnectionName(const QString& sessionId, const QString& name)
 {
-    // The row may have gone with its session before a queued rename arrived.
+    // Asking the model for an unknown id would make a session nobody owns.
     if (m_model.connectionTypeOf(sessionId).isEmpty())
         return;
     ConnectionSession* session = m_model.session(sessionId);

@@ -59,6 +59,7 @@ private slots:
     void editorPagesFollowTheTypeTable();
     void savedNamesAreChecked_data();
     void savedNamesAreChecked();
+    void leavingARenameStoresIt();
     void deletingAsksFirst();
     void kioskModeGoesWithTheLastConnection();
 
@@ -366,6 +367,26 @@ void TestConnectionsFrame::savedNamesAreChecked()
     QCOMPARE(m_frame->connectionModel().session(id)->property("name").toString(), name.simplified());
     QWidget* renameEditor = table()->indexWidget(table()->currentIndex());
     QCOMPARE(renameEditor != nullptr && table()->currentItem()->data(Qt::UserRole).toString() == id, renaming);
+}
+
+// Clicking elsewhere ends the rename as Enter does, before the click takes effect.
+void TestConnectionsFrame::leavingARenameStoresIt()
+{
+    ConfigFile config;
+    QVERIFY(config.setContent(Rdp));
+    m_frame->loadConfig(&config);
+    QApplication::setActiveWindow(m_frame.get());
+    QTableWidgetItem* item = table()->item(0, 0);
+    table()->editItem(item);
+    auto* edit = qobject_cast<QLineEdit*>(table()->indexWidget(table()->model()->index(0, 0)));
+    QVERIFY(edit);
+    edit->setFocus();
+    QTRY_VERIFY(edit->hasFocus());
+    edit->setText(QStringLiteral("Head  office "));
+    QTest::mouseClick(listPage()->newConnectionButton(), Qt::LeftButton);
+    QCOMPARE(m_frame->connectionModel().session(QStringLiteral("{r1}"))->property("name").toString(),
+             QStringLiteral("Head office"));
+    QVERIFY(qobject_cast<ConnectionSelectorPage*>(current()));
 }
 
 void TestConnectionsFrame::deletingAsksFirst()
