@@ -4,6 +4,7 @@
 #include "emptyvalueholders.h"
 
 #include "config/configfile.h"
+#include "connections/model/connectionmodel.h"
 #include "pages/configpage.h"
 
 #include <QDir>
@@ -77,6 +78,11 @@ void DocumentController::loadPages()
  */
 void DocumentController::generate()
 {
+    generateFor(Destination::File);
+}
+
+void DocumentController::generateFor(Destination destination)
+{
     const QDomElement loadedRoot = m_loaded->documentElement();
     QDomElement oldRoot = m_generated->documentElement();
     QDomNode copy = m_generated->importNode(loadedRoot, true);
@@ -93,8 +99,29 @@ void DocumentController::generate()
     holders.removeUnused();
 
     QDomElement generatedRoot = m_generated->documentElement();
+    if (destination == Destination::File)
+        keepUnchangedConnections(loadedRoot, generatedRoot);
     tidySections(loadedRoot, generatedRoot);
     m_generated->setCurrentNodeAsRoot();
+}
+
+/*
+ * On a device the connection model writes the section of every connection type the user
+ * changed and removes the sections of the others, so that the settings tool is handed
+ * only the changes (standalone, every loaded type counts as changed). A saved file,
+ * though, is the administrator's whole configuration: a type's section that the model
+ * removed without writing it anew was unchanged, and goes back in as it was loaded.
+ * A type whose connections were all deleted is written as an empty section, so it is
+ * not mistaken for an unchanged one.
+ */
+void DocumentController::keepUnchangedConnections(const QDomElement& loadedRoot, QDomElement& generatedRoot)
+{
+    const QStringList types = ConnectionModel::sSupportedConnectionTypes();
+    for (const QString& type : types) {
+        const QDomElement loaded = loadedRoot.firstChildElement(type);
+        if (!loaded.isNull() && generatedRoot.firstChildElement(type).isNull())
+            generatedRoot.appendChild(m_generated->importNode(loaded, true));
+    }
 }
 
 /*
@@ -147,7 +174,7 @@ void DocumentController::tidySections(const QDomElement& loadedRoot, QDomElement
 
 bool DocumentController::save(const QString& path, QString* reason)
 {
-    generate();
+    generateFor(Destination::File);
     if (!m_generated->save(path)) {
         if (reason)
             *reason = saveFailureReason(path);
@@ -159,7 +186,7 @@ bool DocumentController::save(const QString& path, QString* reason)
 
 bool DocumentController::apply(QString* reason)
 {
-    generate();
+    generateFor(Destination::Device);
     // The settings tool applies whatever "default.tavlocfg" holds, so it must not run
     // when this configuration could not be written there.
     if (!m_generated->save(applyFileName())) {

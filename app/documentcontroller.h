@@ -42,18 +42,24 @@ public:
     // Fills the pages from the loaded document without reporting modifications.
     void loadPages();
 
-    // Has every page write into a fresh copy of the loaded document.
+    // Has every page write into a fresh copy of the loaded document: the configuration as
+    // it is saved, which is also what the summary shows.
     void generate();
     // Generates and writes the result to path. False with a reason when the file could
     // not be written; the file that was there stays as it was.
     bool save(const QString& path, QString* reason);
-    // Generates, saves "default.tavlocfg" in the current directory and has the device's
-    // settings tool apply it.
+    // Generates what the device is to change, saves it as "default.tavlocfg" in the
+    // current directory and has the device's settings tool apply it.
     bool apply(QString* reason);
 
     static QString applyFileName() { return QStringLiteral("default.tavlocfg"); }
 
 private:
+    // A file holds the whole configuration; the device is handed only what changed.
+    enum class Destination { File, Device };
+
+    void generateFor(Destination destination);
+    void keepUnchangedConnections(const QDomElement& loadedRoot, QDomElement& generatedRoot);
     static void tidySections(const QDomElement& loadedRoot, QDomElement& generatedRoot);
     static QString saveFailureReason(const QString& path);
 

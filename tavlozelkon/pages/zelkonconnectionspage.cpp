@@ -1,5 +1,7 @@
 #include "zelkonconnectionspage.h"
 
+#include "connections/editing/connectionsframe.h"
+
 #include "accordion.h"
 #include "accordionitem.h"
 #include "platform.h"
@@ -19,7 +21,7 @@ void ZelkonConnectionsPage::setup()
     createAccordion();
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(accordion());
-    // The connections frame is added here with setFrame().
+    setFrame(new ConnectionsFrame(this));
     retranslateUi();
 }
 

@@ -8,7 +8,11 @@
 #include "modalanswer.h"
 
 #include "config/configfile.h"
-#include "connections/model/connectionmodel.h"
+#include "connections/editing/categorizedlistwidget.h"
+#include "connections/editing/connectionlistpage.h"
+#include "connections/editing/connectionselectorpage.h"
+#include "connections/editing/connectionsframe.h"
+#include "connections/editing/defaulteditor.h"
 #include "pages/configpage.h"
 #include "pages/zelkonsummarypage.h"
 
@@ -19,9 +23,12 @@
 #include <QCheckBox>
 #include <QDomDocument>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QTextBrowser>
 #include <QTextCodec>
+#include <QToolButton>
 #include <QtTest>
 #include <memory>
 
@@ -42,6 +49,20 @@ const QByteArray Mixed = R"(<zelkon version="1.0" creator="zelkon" creator_versi
 </zelkon>
 )";
 
+// Connections of three types this machine can launch (RDP, ICA, and XenApp once added)
+// and one it cannot (VMware View), with kiosk mode on.
+const QByteArray Connections = R"(<zelkon version="1.0" creator="zelkon" creator_version="2.0">
+ <keyboard><layout>Germany</layout></keyboard>
+ <rdp><session id="{11111111-2222-3333-4444-555555555555}">
+  <name>Terminal server</name><autostart>true</autostart><address>ts.example.com</address></session></rdp>
+ <ica><session id="{22222222-3333-4444-5555-666666666666}">
+  <name>Citrix farm</name><autostart>false</autostart><address>farm.example.com</address>
+  <proxy><enable>true</enable><address>proxy.example.com</address><port>8080</port></proxy></session></ica>
+ <vmware><session id="{66666666-7777-8888-9999-000000000000}"><name>View</name></session></vmware>
+ <desktop><kiosk_mode>true</kiosk_mode></desktop>
+</zelkon>
+)";
+
 // Answers the file dialogs with paths the test chose.
 class ScriptedChooser : public FileChooser
 {
@@ -49,20 +70,6 @@ public:
     QString openFileName(QWidget*, const QString&) override { return path; }
     QString saveFileName(QWidget*, const QString&) override { return path; }
     QString path;
-};
-
-// The connection model in a frame, as the connections frame holds it.
-class ConnectionModelFrame : public ConfigFrame
-{
-public:
-    void loadConfig(ConfigFile* config) override { model.loadConfig(config); }
-    void saveConfig(ConfigFile* config) override
-    {
-        model.saveConfig(config);
-        config->setCurrentNodeAsRoot();
-    }
-
-    ConnectionModel model;
 };
 
 QByteArray readAll(const QString& path)
@@ -83,6 +90,36 @@ QString canonical(const QDomElement& element)
     for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling())
         text += child.isElement() ? canonical(child.toElement()) : child.nodeValue();
     return text + QLatin1String("</>");
+}
+
+QDomElement rootOf(const QByteArray& bytes)
+{
+    QDomDocument document;
+    document.setContent(bytes);
+    return document.documentElement();
+}
+
+// The sections of that name below the root.
+QList<QDomElement> sections(const QDomElement& root, const QString& name)
+{
+    QList<QDomElement> found;
+    for (QDomElement section = root.firstChildElement(name); !section.isNull();
+         section = section.nextSiblingElement(name))
+        found.append(section);
+    return found;
+}
+
+// The names of the sessions in the one section of that type, "" without it.
+QString sessionNames(const QDomElement& root, const QString& type)
+{
+    const QList<QDomElement> found = sections(root, type);
+    if (found.size() != 1)
+        return QStringLiteral("%1 sections").arg(found.size());
+    QStringList names;
+    for (QDomElement session = found.first().firstChildElement("session"); !session.isNull();
+         session = session.nextSiblingElement("session"))
+        names.append(session.firstChildElement("name").text());
+    return names.join(',');
 }
 
 // A file's tree as canonical() has it, with its keyboard layout replaced when one is given.
@@ -112,6 +149,8 @@ private slots:
     void refusalsKeepTheConfiguration_data();
     void refusalsKeepTheConfiguration();
     void applyRunsTheSettingsTool();
+    void connectionsReachTheFileOnce_data();
+    void connectionsReachTheFileOnce();
 
 private:
     QString write(const QString& name, const QByteArray& contents);
@@ -121,6 +160,15 @@ private:
         const ConfigPage* regional = m_window->containerPages().constFirst();
         return static_cast<SectionFrame*>(regional->accordion()->items().constLast()->content());
     }
+
+    ConnectionListPage* connectionList() const
+    {
+        const ConfigPage* connections = m_window->containerPages().constLast();
+        auto* frame = qobject_cast<ConnectionsFrame*>(connections->accordion()->items().constFirst()->content());
+        return frame ? frame->findChild<ConnectionListPage*>() : nullptr;
+    }
+    QStringList listedNames() const;
+    void addConnection(const QString& typeName, const QString& name, const QString& server);
 
     std::unique_ptr<QTemporaryDir> m_dir;
     std::unique_ptr<DeviceTree> m_device;
@@ -144,14 +192,13 @@ void TestMainWindow::init()
 
     m_window = std::make_unique<MainWindow>();
     m_window->setFileChooser(std::unique_ptr<FileChooser>(m_chooser = new ScriptedChooser));
-    // Stand-ins after the real frames of the regional and connections pages, added
-    // every time the window builds its pages.
+    // A stand-in after the real frames of the regional page, added every time the window
+    // builds its pages.
     auto addFrames = [this] {
         const QList<ConfigPage*> pages = m_window->containerPages();
         auto* keyboard = new SectionFrame(QStringLiteral("keyboard"), QStringLiteral("layout"));
         connect(keyboard, &ConfigFrame::dirty, pages.constFirst(), &WizardPage::modified);
         pages.constFirst()->accordion()->addItem(new AccordionItem(keyboard));
-        pages.constLast()->accordion()->addItem(new AccordionItem(new ConnectionModelFrame));
     };
     connect(m_window.get(), &MainWindow::containerPagesBuilt, this, addFrames);
     addFrames();
@@ -370,6 +417,118 @@ void TestMainWindow::applyRunsTheSettingsTool()
     QVERIFY(apply->isHidden());
     QVERIFY(!m_window->applyToDevice());
     QCOMPARE(settings.runs().size(), 1);
+}
+
+QStringList TestMainWindow::listedNames() const
+{
+    QStringList names;
+    QTableWidget* table = connectionList()->table();
+    for (int row = 0; row < table->rowCount(); ++row)
+        names.append(table->item(row, 0)->text());
+    return names;
+}
+
+// As a user does it: New remote connection, double-click the type, fill in, Save.
+void TestMainWindow::addConnection(const QString& typeName, const QString& name, const QString& server)
+{
+    QTest::mouseClick(connectionList()->newConnectionButton(), Qt::LeftButton);
+    auto* selector = connectionList()->parentWidget()->findChild<ConnectionSelectorPage*>();
+    QVERIFY(selector && selector->isVisible());
+    CategorizedListWidget* types = selector->connectionList();
+    const QList<QListWidgetItem*> found = types->findItems(typeName, Qt::MatchExactly);
+    QCOMPARE(found.size(), 1);
+    const QPoint centre = types->visualItemRect(found.first()).center();
+    QTest::mouseClick(types->viewport(), Qt::LeftButton, {}, centre);
+    QTest::mouseDClick(types->viewport(), Qt::LeftButton, {}, centre);
+    DefaultEditor* editor = nullptr;
+    for (DefaultEditor* page : selector->parentWidget()->findChildren<DefaultEditor*>()) {
+        if (page->isVisible())
+            editor = page;
+    }
+    QVERIFY(editor);
+    editor->nameEdit()->setText(name);
+    editor->serverEdit()->setText(server);
+    QTest::mouseClick(editor->saveButton(), Qt::LeftButton);
+    QVERIFY(connectionList()->isVisible());
+}
+
+void TestMainWindow::connectionsReachTheFileOnce_data()
+{
+    QTest::addColumn<int>("target");
+    QTest::addColumn<bool>("standalone");
+    QTest::newRow("lunvex") << int(Platform::Lunvex) << false;
+    QTest::newRow("wes") << int(Platform::Wes) << false;
+    QTest::newRow("wes7") << int(Platform::Wes7) << false;
+    QTest::newRow("ce") << int(Platform::Ce) << false;
+    QTest::newRow("standalone") << int(Platform::Lunvex) << true;
+}
+
+// A connection created, renamed or deleted in the wizard is in the saved file exactly
+// once; the connections the user did not touch, and the types this machine cannot
+// launch, are saved as they were. Only applying hands the device just the changes.
+void TestMainWindow::connectionsReachTheFileOnce()
+{
+    QFETCH(int, target);
+    QFETCH(bool, standalone);
+    FakeTool settings(QStringLiteral("tavlosettings"));
+    Platform::instance()->setTarget(Platform::Target(target));
+    m_window->standaloneCheck()->setChecked(standalone);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(m_window->openFile(write(QStringLiteral("connections.tavlocfg"), Connections)));
+    m_window->showPage(MainWindow::ConnectionsPage);
+    QCOMPARE(listedNames(), QStringList({ "Citrix farm", "Terminal server" }));
+    QVERIFY(!m_window->isWindowModified());
+
+    addConnection(QStringLiteral("XenApp"), QStringLiteral("Portal"), QStringLiteral("https://apps.example.com"));
+    QTableWidget* table = connectionList()->table();
+    QTableWidgetItem* old = table->findItems(QStringLiteral("Terminal server"), Qt::MatchExactly).first();
+    table->editItem(old);
+    auto* rename = qobject_cast<QLineEdit*>(table->indexWidget(table->model()->index(old->row(), 0)));
+    QVERIFY(rename);
+    rename->setText(QStringLiteral("Main server"));
+    QTest::keyClick(rename, Qt::Key_Return);
+    QTRY_COMPARE(listedNames(), QStringList({ "Citrix farm", "Main server", "Portal" }));
+    QVERIFY(m_window->isWindowModified());
+
+    const QString saved = m_dir->filePath(QStringLiteral("saved.tavlocfg"));
+    m_chooser->path = saved;
+    QVERIFY(m_window->saveAs());
+    const QDomElement loaded = rootOf(Connections);
+    QDomElement file = rootOf(readAll(saved));
+    QCOMPARE(sessionNames(file, "rdp"), QStringLiteral("Main server"));
+    QCOMPARE(sessionNames(file, "xenapp"), QStringLiteral("Portal"));
+    QCOMPARE(sections(file, "desktop").size(), 1);
+    // Untouched: saved whole, whether or not the device would be sent it.
+    for (const char* untouched : { "ica", "vmware" }) {
+        QCOMPARE(sections(file, untouched).size(), 1);
+        QCOMPARE(canonical(sections(file, untouched).first()), canonical(loaded.firstChildElement(untouched)));
+    }
+
+    // Applying on a device hands over what changed; the untouched ICA connection stays out.
+    if (!standalone) {
+        QVERIFY(m_window->applyToDevice());
+        const QDomElement applied = rootOf(readAll(m_dir->filePath(QStringLiteral("default.tavlocfg"))));
+        QCOMPARE(sessionNames(applied, "rdp"), QStringLiteral("Main server"));
+        QCOMPARE(sessionNames(applied, "xenapp"), QStringLiteral("Portal"));
+        QCOMPARE(sections(applied, "ica").size(), 0);
+        QCOMPARE(sections(applied, "vmware").size(), 1);
+    }
+
+    // Reopened, every connection is listed once; one deleted is gone from the next save.
+    QVERIFY(m_window->openFile(saved));
+    QCOMPARE(listedNames(), QStringList({ "Citrix farm", "Main server", "Portal" }));
+    ModalAnswer box(QMessageBox::Yes);
+    box.arm();
+    QTest::mouseClick(qobject_cast<QToolButton*>(connectionList()->table()->cellWidget(2, 1)), Qt::LeftButton);
+    QVERIFY(box.answered());
+    QVERIFY(m_window->save());
+    file = rootOf(readAll(saved));
+    QCOMPARE(sessionNames(file, "xenapp"), QString());
+    QCOMPARE(sessionNames(file, "rdp"), QStringLiteral("Main server"));
+    QCOMPARE(sessionNames(file, "ica"), QStringLiteral("Citrix farm"));
+    QVERIFY(m_window->openFile(saved));
+    QCOMPARE(listedNames(), QStringList({ "Citrix farm", "Main server" }));
 }
 
 QTEST_MAIN(TestMainWindow)

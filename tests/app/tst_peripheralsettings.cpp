@@ -2,6 +2,7 @@
 #include "filechooser.h"
 #include "mainwindow.h"
 
+#include "devicetree.h"
 #include "faketool.h"
 
 #include "pages/zelkonperipheralpage.h"
@@ -63,6 +64,9 @@ private slots:
     void init()
     {
         m_dir = std::make_unique<QTemporaryDir>();
+        // Without launchers the connection list would be empty and switch kiosk mode off.
+        m_device = std::make_unique<DeviceTree>();
+        m_device->addConnectionLaunchers();
         m_oldCurrent = QDir::currentPath();
         QDir::setCurrent(m_dir->path());
     }
@@ -70,6 +74,7 @@ private slots:
     void cleanup()
     {
         QDir::setCurrent(m_oldCurrent);
+        m_device.reset();
         m_dir.reset();
     }
 
@@ -161,6 +166,7 @@ private slots:
 
 private:
     std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<DeviceTree> m_device;
     QString m_oldCurrent;
 };
 

@@ -98,6 +98,8 @@ void TestRegionalWizard::init()
 {
     m_dir = std::make_unique<QTemporaryDir>();
     m_device = std::make_unique<DeviceTree>();
+    // Without launchers the connection list would be empty and switch kiosk mode off.
+    m_device->addConnectionLaunchers();
     m_window = std::make_unique<MainWindow>();
     m_window->setFileChooser(std::unique_ptr<FileChooser>(m_chooser = new ScriptedChooser));
 }

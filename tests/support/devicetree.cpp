@@ -29,3 +29,10 @@ void DeviceTree::removeFile(const QString& absolutePath)
 {
     QFile::remove(m_dir.path() + absolutePath);
 }
+
+void DeviceTree::addConnectionLaunchers()
+{
+    for (const char* launcher : { "rdesktop-runner", "ica-session-runner", "parlix-runner", "iceweasel-runner",
+                                  "view-runner", "pnagent-runner" })
+        addFile(QStringLiteral("/usr/bin/") + QLatin1String(launcher));
+}

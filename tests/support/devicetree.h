@@ -20,6 +20,8 @@ public:
     // Creates absolutePath (e.g. "/usr/bin/view-runner") below the root with contents.
     void addFile(const QString& absolutePath, const QByteArray& contents = QByteArray());
     void removeFile(const QString& absolutePath);
+    // The launchers of every connection type the wizard offers, as on the example device.
+    void addConnectionLaunchers();
 
 private:
     QTemporaryDir m_dir;

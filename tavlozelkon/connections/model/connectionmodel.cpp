@@ -180,6 +180,11 @@ ConnectionKindred* ConnectionModel::connections(const QString& type)
     return kind;
 }
 
+bool ConnectionModel::containsConnections(const QString& type) const
+{
+    return m_connections.contains(type);
+}
+
 ConnectionSession* ConnectionModel::session(const QString& id)
 {
     for (ConnectionKindred* kind : qAsConst(m_connections)) {

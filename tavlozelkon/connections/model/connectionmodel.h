@@ -38,6 +38,8 @@ public:
 
     // Created empty when missing.
     ConnectionKindred* connections(const QString& type);
+    // Whether the type was asked for or loaded; unlike connections() it never adds one.
+    bool containsConnections(const QString& type) const;
     // The session from the first type (in key order) holding the id; otherwise a new
     // parentless session with a fresh id, owned by the caller.
     ConnectionSession* session(const QString& id);
