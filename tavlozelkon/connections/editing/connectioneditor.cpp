@@ -6,6 +6,9 @@
 #include "connectionsessioneditor.h"
 #include "defaulteditor.h"
 #include "editingmessagebox.h"
+#include "icaeditor.h"
+#include "parlixeditor.h"
+#include "webbrowsereditor.h"
 
 #include "connections/model/connectionmodel.h"
 #include "connections/model/connectionsession.h"
@@ -21,7 +24,7 @@ namespace {
 
 using EditorFactory = ConnectionSessionEditor* (*)(const QString& type, ConnectionModel& model, QWidget* parent);
 
-// For the types with an editor page of their own, e.g. &createEditor<IcaEditor>.
+// For the types with an editor page of their own.
 template <class Editor> ConnectionSessionEditor* createEditor(const QString&, ConnectionModel& model, QWidget* parent)
 {
     return new Editor(model, parent);
@@ -47,10 +50,9 @@ struct EditorRow
 const char* const Url = EDITOR_TEXT("URL");
 
 const EditorRow editorRows[] = {
-    // The web browser, ICA and terminal emulator have editors of their own, not here yet.
-    { "browser", nullptr, nullptr, nullptr, nullptr },
-    { "ica", nullptr, nullptr, nullptr, nullptr },
-    { "parlix", nullptr, nullptr, nullptr, nullptr },
+    { "browser", createEditor<WebBrowserEditor>, nullptr, nullptr, nullptr },
+    { "ica", createEditor<IcaEditor>, nullptr, nullptr, nullptr },
+    { "parlix", createEditor<ParlixEditor>, nullptr, nullptr, nullptr },
     { "leostream", createDefaultEditor, EDITOR_TEXT("Leostream connection"), Url, nullptr },
     { "rdp", createDefaultEditor, EDITOR_TEXT("RDP connection"), nullptr, nullptr },
     { "glimt", createDefaultEditor, EDITOR_TEXT("Glimt connection"), nullptr, nullptr },

@@ -6,6 +6,7 @@
 #include "connections/editing/connectionselectorpage.h"
 #include "connections/editing/connectionsframe.h"
 #include "connections/editing/defaulteditor.h"
+#include "connections/editing/icaeditor.h"
 #include "connections/model/configatom.h"
 #include "connections/model/connectionkindred.h"
 #include "connections/model/connectionmodel.h"
@@ -26,7 +27,7 @@
 #include <memory>
 
 namespace {
-// The launchers of the types the tests create; ICA is offered but has no editor page yet.
+// The launchers of the types the tests create.
 const char* const Launchers[] = { "rdesktop-runner", "ica-session-runner", "view-runner", "pnagent-runner" };
 
 const QString Rdp = QStringLiteral(
@@ -222,9 +223,20 @@ void TestConnectionsFrame::newConnectionsAreListedSortedAcrossTypes()
     QCOMPARE(current(), listPage());
     QCOMPARE(table()->rowCount(), 3);
 
-    // A type offered here whose editor is not built leaves the selector showing.
+    // Types with editor pages of their own open them from the selector, and a stored
+    // session of theirs reopens from its row.
     QVERIFY(!startNewConnection(QStringLiteral("ICA")));
-    QVERIFY(qobject_cast<ConnectionSelectorPage*>(current()));
+    auto* ica = qobject_cast<IcaEditor*>(current());
+    QVERIFY(ica);
+    QCOMPARE(ica->connectionSessionId(), ConnectionSessionEditor::NEW_SESSION_ID);
+    QTest::keyClicks(ica->findChild<QLineEdit*>(QStringLiteral("ServerEdit")), QStringLiteral("farm.example"));
+    QTest::mouseClick(ica->saveButton(), Qt::LeftButton);
+    QCOMPARE(current(), listPage());
+    QCOMPARE(table()->rowCount(), 4);
+    const QString icaId = m_frame->connectionModel().connections(QStringLiteral("ica"))->sessions().constFirst()->id();
+    m_frame->editor()->openSessionEditor(icaId);
+    QCOMPARE(current(), ica);
+    QCOMPARE(ica->connectionSessionId(), icaId);
 }
 
 void TestConnectionsFrame::editorPagesFollowTheTypeTable_data()
@@ -249,10 +261,10 @@ void TestConnectionsFrame::editorPagesFollowTheTypeTable_data()
     QTest::newRow("xdmcp") << "xdmcp"
                            << "XDMCP connection"
                            << "Server" << QString();
-    // Served by editors of their own, which this stack does not have; like an unknown type.
-    QTest::newRow("ica") << "ica" << QString() << QString() << QString();
-    QTest::newRow("browser") << "browser" << QString() << QString() << QString();
-    QTest::newRow("parlix") << "parlix" << QString() << QString() << QString();
+    // Served by editors of their own; made on first demand and kept.
+    QTest::newRow("ica") << "ica" << QString() << "IcaEditor" << QString();
+    QTest::newRow("browser") << "browser" << QString() << "WebBrowserEditor" << QString();
+    QTest::newRow("parlix") << "parlix" << QString() << "ParlixEditor" << QString();
     QTest::newRow("unknown") << "RDP" << QString() << QString() << QString();
 }
 
@@ -263,6 +275,17 @@ void TestConnectionsFrame::editorPagesFollowTheTypeTable()
     ConnectionEditor* stack = m_frame->editor();
     QCOMPARE(stack->pageIndex(QStringLiteral("connection_list")), 0);
     QCOMPARE(stack->pageIndex(QStringLiteral("connection_selector")), 1);
+    if (header.isNull() && type.isLower()) {
+        // For these the server column names the editor's class.
+        QFETCH(QString, server);
+        const int index = stack->pageIndex(type);
+        QVERIFY(index > 1);
+        QCOMPARE(QString::fromLatin1(stack->page(type)->metaObject()->className()), server);
+        QCOMPARE(stack->pageIndex(type), index);
+        stack->openNewSessionEditor(type);
+        QCOMPARE(current(), stack->page(type));
+        return;
+    }
     if (header.isNull()) {
         QCOMPARE(stack->pageIndex(type), -1);
         stack->openNewSessionEditor(type);
