@@ -1,6 +1,6 @@
 #include "defaulteditor.h"
 
-#include "editingmessagebox.h"
+#include "sessioneditorparts.h"
 #include "validator.h"
 
 #include "connections/model/connectionkindred.h"
@@ -125,19 +125,12 @@ ConnectionSession& DefaultEditor::createNewSession()
 
 bool DefaultEditor::checkMandatoryFields()
 {
-    // Blanks count as filled.
-    if (!m_serverEdit->text().isEmpty())
-        return true;
-    m_serverEdit->setFocus();
-    m_serverEdit->setStyleSheet(QStringLiteral("background-color: white"));
-    EditingMessageBox::exec(this, QMessageBox::Critical,
-                            tr("<center>The field '%1' is mandatory.</center>").arg(serverString()), QMessageBox::Ok);
-    return false;
+    return SessionEditorParts::checkFilled(this, m_serverEdit, serverString());
 }
 
 void DefaultEditor::saveSession(ConnectionSession& session)
 {
     session.setProperty("name", m_nameEdit->text().simplified());
     session.setProperty("address", m_serverEdit->text());
-    session.setProperty("autostart", m_autostart->isChecked() ? QStringLiteral("true") : QStringLiteral("false"));
+    session.setProperty("autostart", SessionEditorParts::boolText(m_autostart->isChecked()));
 }

@@ -1,5 +1,7 @@
 #include "sessioneditorparts.h"
 
+#include "editingmessagebox.h"
+
 #include "connections/model/connectionmodel.h"
 
 #include <QCoreApplication>
@@ -42,11 +44,10 @@ bool checkFilled(QWidget* editor, QLineEdit* field, const QString& label)
         return true;
     field->setFocus();
     field->setStyleSheet(QStringLiteral("background-color: white"));
-    QMessageBox box(
-        QMessageBox::Critical, editor->windowTitle(),
+    EditingMessageBox::exec(
+        editor, QMessageBox::Critical,
         QCoreApplication::translate("SessionEditorParts", "<center>The field '%1' is mandatory.</center>").arg(label),
-        QMessageBox::Ok, editor, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
-    box.exec();
+        QMessageBox::Ok);
     return false;
 }
 
