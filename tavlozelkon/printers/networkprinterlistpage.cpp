@@ -101,12 +101,10 @@ void NetworkPrinterListPage::appendRow(const QString& id)
     summary->setToolTip(summary->text());
     m_table->setItem(row, SummaryColumn, summary);
 
-    // The buttons read the id from their cell; the id itself is nothing to look at, and
-    // the flat buttons would let it show through.
+    // The buttons read the id from their cell.
     for (int column : { DeleteColumn, EditColumn }) {
         auto* button = new QTableWidgetItem(id);
         button->setFlags(Qt::ItemIsEnabled);
-        button->setForeground(Qt::transparent);
         m_table->setItem(row, column, button);
         m_table->openPersistentEditor(button);
     }

@@ -38,6 +38,11 @@ QWidget* ButtonDelegate::createEditor(QWidget* parent, const QStyleOptionViewIte
     return button;
 }
 
+void ButtonDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    drawBackground(painter, option, index);
+}
+
 QSize ButtonDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const
 {
     return QSize(0, 0);

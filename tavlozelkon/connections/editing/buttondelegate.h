@@ -26,6 +26,8 @@ public:
     ButtonRole_t role() const { return m_role; }
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    // The cell holds the id for the button; only the button is shown, never the id.
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     // The column takes the size of the button, not of the id text behind it.
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 

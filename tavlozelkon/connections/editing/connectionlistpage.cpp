@@ -134,9 +134,8 @@ void ConnectionListPage::appendRow(const QString& type, const ConnectionSession&
     m_table->setItem(row, NameColumn, name);
     for (int column : { DeleteColumn, EditColumn }) {
         auto* button = new QTableWidgetItem(session.id());
-        // The id is for the button alone: not edited, and not shown around it.
+        // The id is for the button alone, not to be edited.
         button->setFlags(button->flags() & ~Qt::ItemIsEditable);
-        button->setForeground(Qt::transparent);
         m_table->setItem(row, column, button);
         m_table->openPersistentEditor(button);
     }

@@ -1,5 +1,6 @@
 #include "connections/editing/buttondelegate.h"
 
+#include <QPainter>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTableView>
@@ -55,6 +56,28 @@ private slots:
         QCOMPARE(fired.count(), 1);
         QCOMPARE(fired.first().first().toString(), QStringLiteral("{second}"));
         QCOMPARE(silent.count(), 0);
+    }
+
+    // Only the button shows; the id behind it is never drawn.
+    void cellsDrawNoText()
+    {
+        QStandardItemModel model(1, 1);
+        model.setItem(0, 0, new QStandardItem(QStringLiteral("WWWWWWWWWWWW")));
+        ButtonDelegate delegate(ButtonDelegate::EditButton);
+        QImage image(200, 30, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QStyleOptionViewItem option;
+        option.rect = image.rect();
+        option.state = QStyle::State_Enabled;
+        option.palette.setColor(QPalette::Text, Qt::black);
+        {
+            QPainter painter(&image);
+            delegate.paint(&painter, option, model.index(0, 0));
+        }
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                QCOMPARE(image.pixel(x, y), QColor(Qt::white).rgb());
+        }
     }
 };
 
