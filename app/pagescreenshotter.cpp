@@ -33,6 +33,11 @@ bool PageScreenshotter::write(const QString& directory)
         return false;
     }
 
+    // Scroll areas fit their pages only in a window that is shown; this one need not be seen.
+    if (!m_window->isVisible()) {
+        m_window->setAttribute(Qt::WA_DontShowOnScreen);
+        m_window->show();
+    }
     const QStringList names = fileNames();
     for (int index = 0; index < MainWindow::PageCount; ++index) {
         m_window->showPage(index);
@@ -45,9 +50,10 @@ bool PageScreenshotter::write(const QString& directory)
                 }
             }
         }
-        // A window that was never shown has not laid itself out yet.
+        // Opening a frame changed the page's size; let the layouts follow before the grab.
         QApplication::sendPostedEvents();
         m_window->layout()->activate();
+        QApplication::sendPostedEvents();
         const QString path = dir.absoluteFilePath(names.at(index));
         if (!m_window->grab().save(path, "PNG")) {
             m_error = tr("Cannot write \"%1\".").arg(QDir::toNativeSeparators(path));

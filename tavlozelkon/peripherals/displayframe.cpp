@@ -67,7 +67,10 @@ QComboBox* DisplayFrame::createCombo(const QString& objectName)
 {
     auto* combo = new QComboBox(this);
     combo->setObjectName(objectName);
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    // Long choices ("Span across monitors…") open in full in the list; the closed combo
+    // need not be as wide, so the page fits beside the help.
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->setMinimumContentsLength(12);
     return combo;
 }
 
