@@ -4,7 +4,7 @@
 #include <QString>
 
 /*
- * What every fuzz target shares: an application object, a platform that never runs the
+ * What every fuzz target shares: an application object (widgets included), a platform that never runs the
  * device's tools, a scratch device root, and the file each input is written to.
  */
 class FuzzInput
