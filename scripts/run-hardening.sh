@@ -10,9 +10,11 @@ start=$(date +%s)
 fuzz_seconds=${FUZZ_SECONDS:-30}
 
 rm -rf build-hardening
+launcher=
+command -v ccache >/dev/null && launcher=-DCMAKE_CXX_COMPILER_LAUNCHER=ccache
 # -O1 with line tables: quick to build, still readable stack traces.
 CC=clang CXX=clang++ cmake -S . -B build-hardening -DZELKON_WERROR=ON -DZELKON_FUZZ=ON \
-    -DCMAKE_BUILD_TYPE=None -DCMAKE_CXX_FLAGS="-O1 -gline-tables-only"
+    -DCMAKE_BUILD_TYPE=None -DCMAKE_CXX_FLAGS="-O1 -gline-tables-only" $launcher
 cmake --build build-hardening -j"$(nproc)"
 echo "hardening: built in $(($(date +%s) - start)) s"
 

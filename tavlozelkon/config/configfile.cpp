@@ -464,8 +464,10 @@ QString ConfigFile::elementToString(QDomElement& section)
             QString value = child.firstChild().nodeValue();
             if (childTag == QLatin1String("passphrase") || childTag == QLatin1String("password"))
                 value = QStringLiteral("********");
-            html += QLatin1String("<tr><td width =\"50%\">") + sectionAlias(childTag).toHtmlEscaped()
-                + QLatin1String("</td><td>") + value.toHtmlEscaped() + QLatin1String("</td></tr>");
+            // append(), not += of a concatenation: that reserves exactly and turns a large
+            // summary quadratic.
+            html.append(QLatin1String("<tr><td width =\"50%\">") + sectionAlias(childTag).toHtmlEscaped()
+                        + QLatin1String("</td><td>") + value.toHtmlEscaped() + QLatin1String("</td></tr>"));
         }
     }
     html += QLatin1String("</table>");
@@ -480,9 +482,9 @@ QString ConfigFile::sessionToString(QDomElement& element)
         if (child.tagName() == QLatin1String("proxy")) {
             html += proxySettingsToString(child);
         } else {
-            html += QLatin1String("<tr><td width=\"10%\"/><td width =\"50%\">")
-                + sectionAlias(child.tagName()).toHtmlEscaped() + QLatin1String("</td><td>")
-                + child.text().toHtmlEscaped() + QLatin1String("</td></tr>");
+            html.append(QLatin1String("<tr><td width=\"10%\"/><td width =\"50%\">")
+                        + sectionAlias(child.tagName()).toHtmlEscaped() + QLatin1String("</td><td>")
+                        + child.text().toHtmlEscaped() + QLatin1String("</td></tr>"));
         }
     }
     html += QLatin1String("<tr/>");
