@@ -20,7 +20,7 @@ public:
     ParseGuard() = delete;
 
     // Larger files are refused before they are read.
-    static constexpr qint64 MaxFileBytes = 2 * 1024 * 1024;
+    static constexpr qint64 MaxFileBytes = 1024 * 1024;
     // Elements inside one another, the root counting as one.
     static constexpr int MaxDepth = 128;
     // Characters of text and attribute values after entity expansion. A file within
