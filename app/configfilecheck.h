@@ -18,4 +18,8 @@ public:
     // Why path is not a readable configuration (a sentence for the user), or an empty
     // text when it is one.
     static QString problem(const QString& path);
+
+private:
+    static QString tooLarge();
+    static QString notXml(qint64 line, qint64 column, const QString& message);
 };

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QStringList>
+#include <sys/resource.h>
 
 DocumentController::DocumentController(QObject* parent)
     : QObject(parent)
@@ -195,12 +196,47 @@ bool DocumentController::apply(QString* reason)
         return false;
     }
     m_generated->apply(applyFileName());
+    const ExternalTool::Result result = m_generated->lastToolResult();
+    if (!result.succeeded()) {
+        if (reason)
+            *reason = toolFailureReason(result);
+        return false;
+    }
     return true;
 }
 
-// The document layer only says that writing failed; tell the user the likely cause.
-QString DocumentController::saveFailureReason(const QString& path)
+// The document layer runs the tool without a word; the user must still learn whether the
+// device took the configuration.
+QString DocumentController::toolFailureReason(const ExternalTool::Result& result)
 {
+    const QString tool = QStringLiteral("tavlosettings");
+    switch (result.outcome) {
+    case ExternalTool::Result::Outcome::NotStarted:
+        return tr("The settings tool \"%1\" could not be started: %2").arg(tool, result.errorText);
+    case ExternalTool::Result::Outcome::Crashed:
+        return tr("The settings tool \"%1\" stopped before it had finished: %2").arg(tool, result.errorText);
+    case ExternalTool::Result::Outcome::TimedOut:
+        return tr("The settings tool \"%1\" did not finish within %2 seconds. It has been left running and may "
+                  "still apply the configuration; check the Thin Client's settings before you try again.")
+            .arg(tool)
+            .arg(ExternalTool::DefaultTimeoutMs / 1000);
+    case ExternalTool::Result::Outcome::Finished:
+        break;
+    }
+    return tr("The settings tool \"%1\" reported a failure (exit code %2); the configuration may have been "
+              "applied only in part.")
+        .arg(tool)
+        .arg(result.exitCode);
+}
+
+// The document layer only says that writing failed; tell the user the likely cause.
+QString DocumentController::saveFailureReason(const QString& path) const
+{
+    const QString unwritable = m_generated->unwritablePath();
+    if (!unwritable.isEmpty())
+        return tr("The value of \"%1\" holds a character that a configuration file cannot hold, such as a "
+                  "control character; remove it and save again.")
+            .arg(unwritable);
     const QFileInfo info(path);
     const QFileInfo folder(info.absolutePath());
     if (!folder.exists())
@@ -211,5 +247,9 @@ QString DocumentController::saveFailureReason(const QString& path)
         return tr("A folder of that name is in the way.");
     if (!folder.isWritable() || (info.exists() && !info.isWritable()))
         return tr("You have no permission to write there.");
+    rlimit limit {};
+    if (getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY
+        && rlim_t(m_generated->toString().toUtf8().size()) > limit.rlim_cur)
+        return tr("It would be larger than the %1 bytes this session may write to a file.").arg(limit.rlim_cur);
     return tr("It could not be written; the disk may be full.");
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "device/externaltool.h"
+
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -49,10 +51,15 @@ public:
     // not be written; the file that was there stays as it was.
     bool save(const QString& path, QString* reason);
     // Generates what the device is to change, saves it as "default.tavlocfg" in the
-    // current directory and has the device's settings tool apply it.
+    // current directory and has the device's settings tool apply it. False with a reason
+    // when the file could not be written or the tool was missing, failed or did not finish
+    // in time.
     bool apply(QString* reason);
 
     static QString applyFileName() { return QStringLiteral("default.tavlocfg"); }
+
+    // A sentence for the user on what the settings tool did when it did not succeed.
+    static QString toolFailureReason(const ExternalTool::Result& result);
 
 private:
     // A file holds the whole configuration; the device is handed only what changed.
@@ -61,7 +68,7 @@ private:
     void generateFor(Destination destination);
     void keepUnchangedConnections(const QDomElement& loadedRoot, QDomElement& generatedRoot);
     static void tidySections(const QDomElement& loadedRoot, QDomElement& generatedRoot);
-    static QString saveFailureReason(const QString& path);
+    QString saveFailureReason(const QString& path) const;
 
     std::unique_ptr<ConfigFile> m_loaded;
     std::unique_ptr<ConfigFile> m_generated;

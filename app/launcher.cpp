@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QTextStream>
+#include <csignal>
 
 namespace {
 QTextStream& out()
@@ -28,6 +29,11 @@ QTextStream& err()
     return stream;
 }
 } // namespace
+
+void Launcher::prepareProcess()
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+}
 
 QStringList Launcher::prepareArguments(int& argc, char** argv)
 {

@@ -15,6 +15,10 @@ class Launcher
 public:
     Launcher() = delete;
 
+    // Process-wide settings, first thing in main(): a write beyond the file-size limit
+    // then fails like a full disk (the save is reported and the old file kept) instead of
+    // ending the process with SIGXFSZ.
+    static void prepareProcess();
     // Before the application object exists, which would take some of our options for
     // its own: returns the whole command line for run() and leaves in argc/argv only
     // what the application object may see.

@@ -4,6 +4,7 @@
 
 int main(int argc, char** argv)
 {
+    Launcher::prepareProcess();
     const QStringList arguments = Launcher::prepareArguments(argc, argv);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Zelkon"));

@@ -6,13 +6,21 @@
 #include <algorithm>
 
 namespace {
-void collectElements(const QDomNode& parent, QList<QDomElement>& elements)
+// Pre-order without recursion, so that no depth of document can exhaust the stack.
+void collectElements(const QDomNode& top, QList<QDomElement>& elements)
 {
-    for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {
-        if (child.isElement()) {
-            elements.append(child.toElement());
-            collectElements(child, elements);
+    QDomNode node = top.firstChild();
+    while (!node.isNull()) {
+        if (node.isElement()) {
+            elements.append(node.toElement());
+            if (node.hasChildNodes()) {
+                node = node.firstChild();
+                continue;
+            }
         }
+        while (node.nextSibling().isNull() && node.parentNode() != top)
+            node = node.parentNode();
+        node = node.nextSibling();
     }
 }
 } // namespace

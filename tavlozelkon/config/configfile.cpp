@@ -5,7 +5,9 @@
 #include "device/externaltool.h"
 #include "domwriter.h"
 #include "messagehandler.h"
+#include "parseguard.h"
 #include "platform.h"
+#include "xmlcharacters.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -278,9 +280,17 @@ bool ConfigFile::load(QString path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    const QByteArray content = file.readAll();
+    // A file the guard refuses is treated like one that cannot be read: the document stays.
+    // Reading one byte past the limit also catches pipes and devices, which tell no size.
+    if (file.size() > ParseGuard::MaxFileBytes)
+        return false;
+    const QByteArray content = file.isSequential() ? file.read(ParseGuard::MaxFileBytes + 1) : file.readAll();
     file.close();
-    const bool parsed = setContent(content, true);
+    const ParseGuard::Verdict verdict = ParseGuard::check(content).verdict;
+    if (verdict != ParseGuard::Verdict::Accepted && verdict != ParseGuard::Verdict::NotWellFormed)
+        return false;
+
+    const bool parsed = verdict == ParseGuard::Verdict::Accepted && setContent(content, true);
     if (parsed) {
         m_attributeOrder->record(*this, content);
     } else {
@@ -296,6 +306,10 @@ bool ConfigFile::load(QString path)
 bool ConfigFile::save(const QString& path)
 {
     m_fileName = path;
+    // Replacing such characters would change the user's values behind their back, and
+    // writing them would make a file no strict reader accepts.
+    if (!XmlCharacters::firstUnwritable(*this).isNull())
+        return false;
     // Written beside the old file and renamed over it only when complete, so a failed
     // save never costs the user the file they had.
     QSaveFile file(path);
@@ -308,6 +322,17 @@ bool ConfigFile::save(const QString& path)
         return false;
     }
     return file.commit();
+}
+
+QString ConfigFile::unwritablePath() const
+{
+    QStringList names;
+    for (QDomNode node = XmlCharacters::firstUnwritable(*this); !node.isNull() && !node.isDocument();
+         node = node.parentNode()) {
+        if (node.isElement())
+            names.prepend(node.nodeName());
+    }
+    return names.join(QLatin1Char('/'));
 }
 
 void ConfigFile::setfilename(QString name)
@@ -324,7 +349,7 @@ QString ConfigFile::getfilename()
 void ConfigFile::createDefaultConfigFile()
 {
     // The tool writes the device's current settings; whether it managed to is not ours to judge.
-    ExternalTool::run(
+    m_lastToolResult = ExternalTool::execute(
         QStringLiteral("tavlosettings"),
         { QStringLiteral("-settings"), DeviceSettingsFile, QStringLiteral("-get"), QStringLiteral("all") });
 }
@@ -334,7 +359,7 @@ void ConfigFile::apply(const QString& path)
     save(path);
     // The tool is always handed the device file, whatever path was saved; the summary page
     // applies by saving under exactly that name.
-    ExternalTool::run(
+    m_lastToolResult = ExternalTool::execute(
         QStringLiteral("tavlosettings"),
         { QStringLiteral("-settings"), DeviceSettingsFile, QStringLiteral("-set"), QStringLiteral("all") });
 }
@@ -439,8 +464,10 @@ QString ConfigFile::elementToString(QDomElement& section)
             QString value = child.firstChild().nodeValue();
             if (childTag == QLatin1String("passphrase") || childTag == QLatin1String("password"))
                 value = QStringLiteral("********");
-            html += QLatin1String("<tr><td width =\"50%\">") + sectionAlias(childTag).toHtmlEscaped()
-                + QLatin1String("</td><td>") + value.toHtmlEscaped() + QLatin1String("</td></tr>");
+            // append(), not += of a concatenation: that reserves exactly and turns a large
+            // summary quadratic.
+            html.append(QLatin1String("<tr><td width =\"50%\">") + sectionAlias(childTag).toHtmlEscaped()
+                        + QLatin1String("</td><td>") + value.toHtmlEscaped() + QLatin1String("</td></tr>"));
         }
     }
     html += QLatin1String("</table>");
@@ -455,9 +482,9 @@ QString ConfigFile::sessionToString(QDomElement& element)
         if (child.tagName() == QLatin1String("proxy")) {
             html += proxySettingsToString(child);
         } else {
-            html += QLatin1String("<tr><td width=\"10%\"/><td width =\"50%\">")
-                + sectionAlias(child.tagName()).toHtmlEscaped() + QLatin1String("</td><td>")
-                + child.text().toHtmlEscaped() + QLatin1String("</td></tr>");
+            html.append(QLatin1String("<tr><td width=\"10%\"/><td width =\"50%\">")
+                        + sectionAlias(child.tagName()).toHtmlEscaped() + QLatin1String("</td><td>")
+                        + child.text().toHtmlEscaped() + QLatin1String("</td></tr>"));
         }
     }
     html += QLatin1String("<tr/>");

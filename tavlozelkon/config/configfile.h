@@ -1,5 +1,6 @@
 #pragma once
 
+#include "device/externaltool.h"
 #include "tavlozelkon_lib_export.h"
 
 #include <QCoreApplication>
@@ -69,13 +70,23 @@ public:
     void sortNodes();
 
     // Files. load() and save() return whether the file could be read or written; the
-    // document's own callers may ignore that, as the wizard's pages do.
+    // document's own callers may ignore that, as the wizard's pages do. load() refuses,
+    // leaving the document as it was, a file that ParseGuard does not accept for its size,
+    // depth or amount of text; a file that is not well-formed leaves an empty document.
     bool load(QString path);
+    // Fails, leaving the file as it was, when a value holds a character that an XML file
+    // cannot hold (NUL, most control characters, half of a surrogate pair).
     bool save(const QString& path);
+    // The element path ("zelkon/rdp/session/name") of the first such value; empty when
+    // the document can be saved.
+    QString unwritablePath() const;
     void setfilename(QString name);
     QString getfilename();
     void createDefaultConfigFile();
     void apply(const QString& path);
+    // What the settings tool did when createDefaultConfigFile() or apply() last ran it.
+    // The document stays silent about it; an application may tell its user.
+    ExternalTool::Result lastToolResult() const { return m_lastToolResult; }
 
     // Validation against an XML schema. No schema is loaded by default; a host supplies
     // one with setSchema().
@@ -105,6 +116,7 @@ private:
     std::unique_ptr<MessageHandler> m_messageHandler;
     QMap<QString, QString> m_sectionAliases;
     QString m_fileName;
+    ExternalTool::Result m_lastToolResult;
     // Kept so that saving writes attributes in a stable order (see AttributeOrder).
     std::unique_ptr<AttributeOrder> m_attributeOrder;
 };

@@ -78,14 +78,6 @@ bool isXmlDeclaration(const QDomNode& node)
     return node.isProcessingInstruction() && node.nodeName() == QLatin1String("xml");
 }
 
-void saveNode(const QDomNode& node, Context& context, int depth);
-
-void saveChildren(const QDomNode& parent, Context& context, int depth)
-{
-    for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling())
-        saveNode(child, context, depth);
-}
-
 void saveAttributes(const QDomElement& element, Context& context)
 {
     QTextStream& s = context.stream;
@@ -109,15 +101,22 @@ void saveAttributes(const QDomElement& element, Context& context)
     }
 }
 
-void saveElement(const QDomElement& element, Context& context, int depth)
+void writeLineEndAfter(const QDomNode& node, Context& context)
+{
+    const QDomNode next = node.nextSibling();
+    if (!(!next.isNull() && next.isText()) && context.indent != -1)
+        context.stream << '\n';
+}
+
+// The start tag; an element without children is complete after it.
+void openElement(const QDomElement& element, Context& context, int depth)
 {
     QTextStream& s = context.stream;
     const QDomNode previous = element.previousSibling();
     if (!(!previous.isNull() && previous.isText()))
         s << indentation(context, depth);
 
-    const QString qualifiedName = element.nodeName();
-    s << '<' << qualifiedName;
+    s << '<' << element.nodeName();
     if (!element.namespaceURI().isNull()) {
         s << (element.prefix().isEmpty() ? QStringLiteral(" xmlns") : QStringLiteral(" xmlns:") + element.prefix());
         s << "=\"" << encodeText(element.namespaceURI(), s, true, false, false) << '"';
@@ -128,24 +127,28 @@ void saveElement(const QDomElement& element, Context& context, int depth)
         s << '>';
         if (!element.firstChild().isText() && context.indent != -1)
             s << '\n';
-        saveChildren(element, context, depth + 1);
-        if (!element.lastChild().isText())
-            s << indentation(context, depth);
-        s << "</" << qualifiedName << '>';
     } else {
         s << "/>";
+        writeLineEndAfter(element, context);
     }
-    const QDomNode next = element.nextSibling();
-    if (!(!next.isNull() && next.isText()) && context.indent != -1)
-        s << '\n';
 }
 
-void saveNode(const QDomNode& node, Context& context, int depth)
+void closeElement(const QDomElement& element, Context& context, int depth)
+{
+    QTextStream& s = context.stream;
+    if (!element.lastChild().isText())
+        s << indentation(context, depth);
+    s << "</" << element.nodeName() << '>';
+    writeLineEndAfter(element, context);
+}
+
+// Every node but an element with children.
+void saveLeaf(const QDomNode& node, Context& context, int depth)
 {
     QTextStream& s = context.stream;
     switch (node.nodeType()) {
     case QDomNode::ElementNode:
-        saveElement(node.toElement(), context, depth);
+        openElement(node.toElement(), context, depth);
         break;
     case QDomNode::TextNode: {
         const QDomNode parent = node.parentNode();
@@ -181,6 +184,30 @@ void saveNode(const QDomNode& node, Context& context, int depth)
         // for them is already stable.
         node.save(s, context.indent);
         break;
+    }
+}
+
+// A node and everything below it, depth-first without recursion, so that no depth of
+// document can exhaust the stack.
+void saveNode(const QDomNode& top, Context& context, int depth)
+{
+    QDomNode node = top;
+    for (;;) {
+        if (node.isElement() && node.hasChildNodes()) {
+            openElement(node.toElement(), context, depth);
+            node = node.firstChild();
+            ++depth;
+            continue;
+        }
+        saveLeaf(node, context, depth);
+        while (node != top && node.nextSibling().isNull()) {
+            node = node.parentNode();
+            --depth;
+            closeElement(node.toElement(), context, depth);
+        }
+        if (node == top)
+            return;
+        node = node.nextSibling();
     }
 }
 

@@ -363,7 +363,7 @@ void TestMainWindow::refusalsKeepTheConfiguration_data()
     QTest::newRow("empty") << false << QByteArray("") << "empty";
     QTest::newRow("not XML") << false << QByteArray("[Display]\nResolution=1024x768\n") << "not an XML document";
     QTest::newRow("wrong root") << false << QByteArray("<?xml version=\"1.0\"?><settings/>") << "<settings>";
-    QTest::newRow("10 MB of garbage") << false << garbage << "not an XML document";
+    QTest::newRow("10 MB of garbage") << false << garbage << "larger than 1 MB";
     // A parent that is a regular file defeats even root.
     QTest::newRow("save below a file") << true << QByteArray() << "is not a folder";
 }

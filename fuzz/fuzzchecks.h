@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+/*
+ * The work each of the configuration's own fuzz targets does with one input file: what
+ * the wizard does with a file a user opens.
+ */
+class FuzzChecks
+{
+public:
+    FuzzChecks() = delete;
+
+    // Load, render the summary, read and write a value, sort and write the text.
+    static void document(const QString& path);
+    // Load the document and the connection model from it, then write the model back.
+    static void connectionModel(const QString& path);
+};
