@@ -242,7 +242,7 @@ private:
     SectionFrame* keyboard() const
     {
         const ConfigPage* regional = m_window->containerPages().constFirst();
-        return static_cast<SectionFrame*>(regional->accordion()->items().constFirst()->content());
+        return dynamic_cast<SectionFrame*>(regional->accordion()->items().constLast()->content());
     }
 
     std::unique_ptr<QTemporaryDir> m_dir;

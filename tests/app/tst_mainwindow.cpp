@@ -158,7 +158,7 @@ private:
     SectionFrame* keyboard() const
     {
         const ConfigPage* regional = m_window->containerPages().constFirst();
-        return static_cast<SectionFrame*>(regional->accordion()->items().constLast()->content());
+        return dynamic_cast<SectionFrame*>(regional->accordion()->items().constLast()->content());
     }
 
     ConnectionListPage* connectionList() const
