@@ -2,6 +2,7 @@
 
 #include "config/configfile.h"
 #include "connections/model/connectionmodel.h"
+#include "printers/printermodel.h"
 
 void FuzzChecks::document(const QString& path)
 {
@@ -27,6 +28,25 @@ void FuzzChecks::connectionModel(const QString& path)
     model.loadConfig(&config);
     model.toDebugString();
     config.setCurrentNodeAsRoot();
+    model.saveConfig(&config);
+    config.toFormattedString();
+}
+
+void FuzzChecks::printers(const QString& path)
+{
+    ConfigFile config;
+    if (!config.load(path))
+        return;
+    config.setCurrentNodeAsRoot();
+    if (!config.findNode(QStringLiteral("network_printer"), 0))
+        return;
+    PrinterModel model;
+    model.loadConfig(&config);
+    const QStringList ids = model.printers().keys();
+    for (const QString& id : ids)
+        model.item(id);
+    config.setCurrentNodeAsRoot();
+    config.addNode(QStringLiteral("network_printer"));
     model.saveConfig(&config);
     config.toFormattedString();
 }

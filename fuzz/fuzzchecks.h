@@ -15,4 +15,6 @@ public:
     static void document(const QString& path);
     // Load the document and the connection model from it, then write the model back.
     static void connectionModel(const QString& path);
+    // Load the document and the printers from it, then write them back.
+    static void printers(const QString& path);
 };

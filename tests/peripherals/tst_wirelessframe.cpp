@@ -100,7 +100,8 @@ private slots:
             Fields fields(frame);
             if (switched)
                 setPlatform(Platform::Target(target));
-            QCoreApplication::sendEvent(&frame, new QEvent(QEvent::LanguageChange));
+            QEvent languageChange(QEvent::LanguageChange);
+            QCoreApplication::sendEvent(&frame, &languageChange);
             QStringList shown;
             for (int i = 0; i < fields.security->count(); ++i)
                 shown.append(fields.security->itemText(i));
