@@ -1,5 +1,5 @@
-#include "filechooser.h"
 #include "mainwindow.h"
+#include "scriptedchooser.h"
 
 #include "device/machineroot.h"
 #include "pages/configpage.h"
@@ -19,14 +19,6 @@ namespace {
 const QString Examples = QStringLiteral(ZELKON_EXAMPLES_DIR);
 const char* const Combos[] = { "DisplayResolution", "DisplayColorDepth", "DisplayRefreshRate",
                                "DisplayMultiMonitorMode", "DisplayPrimaryMonitor" };
-
-class ScriptedChooser : public FileChooser
-{
-public:
-    QString openFileName(QWidget*, const QString&) override { return path; }
-    QString saveFileName(QWidget*, const QString&) override { return path; }
-    QString path;
-};
 
 // The display section of the file at path, "key=value" in order, once per section found.
 QStringList displaySections(const QString& path)

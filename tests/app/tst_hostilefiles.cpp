@@ -1,7 +1,7 @@
 #include "documentcontroller.h"
-#include "filechooser.h"
 #include "launcher.h"
 #include "mainwindow.h"
+#include "scriptedchooser.h"
 #include "sectionframe.h"
 
 #include "devicetree.h"
@@ -26,14 +26,6 @@ namespace {
 const QByteArray Kiosk = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
                          "<zelkon version=\"1.0\" creator=\"zelkon\" creator_version=\"2.0\">\n"
                          " <keyboard>\n  <layout>Germany</layout>\n </keyboard>\n</zelkon>\n";
-
-class ScriptedChooser : public FileChooser
-{
-public:
-    QString openFileName(QWidget*, const QString&) override { return path; }
-    QString saveFileName(QWidget*, const QString&) override { return path; }
-    QString path;
-};
 
 QByteArray readAll(const QString& path)
 {

@@ -1,6 +1,6 @@
 #include "documentcontroller.h"
-#include "filechooser.h"
 #include "mainwindow.h"
+#include "scriptedchooser.h"
 #include "sectionframe.h"
 
 #include "devicetree.h"
@@ -62,15 +62,6 @@ const QByteArray Connections = R"(<zelkon version="1.0" creator="zelkon" creator
  <desktop><kiosk_mode>true</kiosk_mode></desktop>
 </zelkon>
 )";
-
-// Answers the file dialogs with paths the test chose.
-class ScriptedChooser : public FileChooser
-{
-public:
-    QString openFileName(QWidget*, const QString&) override { return path; }
-    QString saveFileName(QWidget*, const QString&) override { return path; }
-    QString path;
-};
 
 QByteArray readAll(const QString& path)
 {

@@ -1,5 +1,5 @@
-#include "filechooser.h"
 #include "mainwindow.h"
+#include "scriptedchooser.h"
 
 #include "devicetree.h"
 
@@ -24,14 +24,6 @@
 
 namespace {
 const QString Examples = QStringLiteral(ZELKON_EXAMPLES_DIR);
-
-class ScriptedChooser : public FileChooser
-{
-public:
-    QString openFileName(QWidget*, const QString&) override { return path; }
-    QString saveFileName(QWidget*, const QString&) override { return path; }
-    QString path;
-};
 
 QDomDocument readDocument(const QString& path)
 {

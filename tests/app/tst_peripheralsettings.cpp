@@ -1,6 +1,6 @@
 #include "documentcontroller.h"
-#include "filechooser.h"
 #include "mainwindow.h"
+#include "scriptedchooser.h"
 
 #include "devicetree.h"
 #include "faketool.h"
@@ -20,14 +20,6 @@
 namespace {
 const QString Examples = QStringLiteral(ZELKON_EXAMPLES_DIR);
 const QStringList OurSections = { "power", "wireless", "sound", "usb" };
-
-class ScriptedChooser : public FileChooser
-{
-public:
-    QString openFileName(QWidget*, const QString&) override { return path; }
-    QString saveFileName(QWidget*, const QString&) override { return path; }
-    QString path;
-};
 
 QDomDocument parse(const QString& path)
 {

@@ -1,5 +1,5 @@
-#include "filechooser.h"
 #include "mainwindow.h"
+#include "scriptedchooser.h"
 
 #include "devicetree.h"
 #include "modalanswer.h"
@@ -38,14 +38,6 @@ const QByteArray TwoPrinters = R"(<zelkon version="1.0" creator="zelkon" creator
 )";
 const QString Laser = QStringLiteral("name=Laser address=prn.example.com port=9100 driver=HP LaserJet 4250 PCL6");
 const QString Ink = QStringLiteral("name=Ink address=10.0.0.7");
-
-class ScriptedChooser : public FileChooser
-{
-public:
-    QString openFileName(QWidget*, const QString&) override { return path; }
-    QString saveFileName(QWidget*, const QString&) override { return path; }
-    QString path;
-};
 
 // The printer records of a saved file, each as "name=... address=..." in the order of its
 // children, sorted; empty when the file has not exactly one printer section.

@@ -1,5 +1,5 @@
-#include "filechooser.h"
 #include "mainwindow.h"
+#include "scriptedchooser.h"
 
 #include "devicetree.h"
 
@@ -27,14 +27,6 @@ const QByteArray Wes7Config = R"(<?xml version="1.0" encoding="utf-8"?>
  <display><resolution>1280x1024</resolution></display>
 </zelkon>
 )";
-
-class ScriptedChooser : public FileChooser
-{
-public:
-    QString openFileName(QWidget*, const QString&) override { return path; }
-    QString saveFileName(QWidget*, const QString&) override { return path; }
-    QString path;
-};
 
 QByteArray readAll(const QString& path)
 {
