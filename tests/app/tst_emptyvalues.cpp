@@ -1,4 +1,5 @@
 #include "documentcontroller.h"
+#include "filecontents.h"
 #include "sectionframe.h"
 
 #include "pages/configpage.h"
@@ -24,11 +25,6 @@ public:
     SectionFrame* frame = nullptr;
 };
 
-QByteArray readAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 } // namespace
 
 // A value the file holds as an empty element must still take what the administrator types.
@@ -66,7 +62,7 @@ private slots:
         page.frame->setText(typed);
 
         QVERIFY(controller.save(path, nullptr));
-        const QByteArray saved = readAll(path);
+        const QByteArray saved = fileContents(path);
         QVERIFY2(saved.contains(expected), saved.constData());
         // Values nobody wrote keep the form they were read in.
         QVERIFY2(saved.contains("<server_address/>") && saved.contains("<empty/>"), saved.constData());

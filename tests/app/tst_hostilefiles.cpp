@@ -1,4 +1,5 @@
 #include "documentcontroller.h"
+#include "filecontents.h"
 #include "launcher.h"
 #include "mainwindow.h"
 #include "scriptedchooser.h"
@@ -26,12 +27,6 @@ namespace {
 const QByteArray Kiosk = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
                          "<zelkon version=\"1.0\" creator=\"zelkon\" creator_version=\"2.0\">\n"
                          " <keyboard>\n  <layout>Germany</layout>\n </keyboard>\n</zelkon>\n";
-
-QByteArray readAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QByteArray nested(int depth)
 {
@@ -153,7 +148,7 @@ private slots:
             QVERIFY2(box.text().contains(reason), qPrintable(box.text()));
         }
         // The tool was handed the configuration either way.
-        QVERIFY(readAll(QStringLiteral("default.tavlocfg")).contains("<layout>Norway</layout>"));
+        QVERIFY(fileContents(QStringLiteral("default.tavlocfg")).contains("<layout>Norway</layout>"));
         if (tool)
             QCOMPARE(tool->runs().size(), 1);
     }
@@ -216,7 +211,7 @@ private slots:
         QVERIFY(box.answered());
         QCOMPARE(box.icon(), QMessageBox::Critical);
         QVERIFY2(box.text().contains(reason), qPrintable(box.text()));
-        QCOMPARE(readAll(m_current), Kiosk);
+        QCOMPARE(fileContents(m_current), Kiosk);
         QVERIFY(m_window->isWindowModified());
         QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList { QStringLiteral("kiosk.tavlocfg") });
     }

@@ -1,4 +1,5 @@
 #include "documentcontroller.h"
+#include "filecontents.h"
 #include "mainwindow.h"
 #include "scriptedchooser.h"
 #include "sectionframe.h"
@@ -62,12 +63,6 @@ const QByteArray Connections = R"(<zelkon version="1.0" creator="zelkon" creator
  <desktop><kiosk_mode>true</kiosk_mode></desktop>
 </zelkon>
 )";
-
-QByteArray readAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // The element tree with attributes in name order, however it was written.
 QString canonical(const QDomElement& element)
@@ -215,7 +210,7 @@ QString TestMainWindow::write(const QString& name, const QByteArray& contents)
 // A copy of the kiosk example, open with its keyboard layout changed to "Norway".
 QString TestMainWindow::openEdited()
 {
-    const QString path = write(QStringLiteral("kiosk.tavlocfg"), readAll(Examples + "/lunvex-kiosk.tavlocfg"));
+    const QString path = write(QStringLiteral("kiosk.tavlocfg"), fileContents(Examples + "/lunvex-kiosk.tavlocfg"));
     m_window->openFile(path);
     keyboard()->setText(QStringLiteral("Norway"));
     return path;
@@ -226,7 +221,7 @@ void TestMainWindow::walkEditSaveAndReopen_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("contents");
     for (const QString& name : QDir(Examples).entryList({ QStringLiteral("*.tavlocfg") }))
-        QTest::newRow(qPrintable(name)) << name << readAll(Examples + '/' + name);
+        QTest::newRow(qPrintable(name)) << name << fileContents(Examples + '/' + name);
     QTest::newRow("mixed") << QStringLiteral("mixed.tavlocfg") << Mixed;
     // As a Windows editor may leave a file: UTF-16 with a byte-order mark and CRLF line ends.
     QString windows = QString::fromUtf8(Mixed).replace(QLatin1String("\n"), QLatin1String("\r\n"));
@@ -280,7 +275,7 @@ void TestMainWindow::walkEditSaveAndReopen()
     QVERIFY(m_window->saveAs());
     QVERIFY(!m_window->isWindowModified());
     // Each section once, and all but the edited value as it was read.
-    QCOMPARE(canonical(readAll(saved)), canonical(contents, "Norway"));
+    QCOMPARE(canonical(fileContents(saved)), canonical(contents, "Norway"));
 
     // Reopened from the title page, into fresh pages.
     ConfigPage* before = m_window->containerPages().constFirst();
@@ -294,7 +289,7 @@ void TestMainWindow::walkEditSaveAndReopen()
     m_chooser->path.clear();
     keyboard()->setText(QStringLiteral("Sweden"));
     QTest::mouseClick(m_window->summaryPage()->saveButton(), Qt::LeftButton);
-    QCOMPARE(canonical(readAll(saved)), canonical(contents, "Sweden"));
+    QCOMPARE(canonical(fileContents(saved)), canonical(contents, "Sweden"));
 }
 
 void TestMainWindow::unsavedChangesPrompt_data()
@@ -321,7 +316,7 @@ void TestMainWindow::unsavedChangesPrompt()
     QFETCH(bool, proceeds);
     QFETCH(QString, savedLayout);
     const QString path = openEdited();
-    m_chooser->path = write(QStringLiteral("office.tavlocfg"), readAll(Examples + "/wes-office.tavlocfg"));
+    m_chooser->path = write(QStringLiteral("office.tavlocfg"), fileContents(Examples + "/wes-office.tavlocfg"));
 
     ModalAnswer box(static_cast<QMessageBox::StandardButton>(answer));
     box.arm();
@@ -335,7 +330,7 @@ void TestMainWindow::unsavedChangesPrompt()
     QCOMPARE(box.buttons(), QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
     QCOMPARE(done, proceeds);
     QCOMPARE(m_window->isWindowModified(), !proceeds);
-    QVERIFY(readAll(path).contains("<layout>" + savedLayout.toUtf8() + "</layout>"));
+    QVERIFY(fileContents(path).contains("<layout>" + savedLayout.toUtf8() + "</layout>"));
     // The summary shows the configuration now being edited.
     m_window->showPage(MainWindow::SummaryPage);
     const QDomElement shown = m_window->document()->generatedDocument()->documentElement();
@@ -384,7 +379,7 @@ void TestMainWindow::refusalsKeepTheConfiguration()
     QCOMPARE(m_window->document()->loadedDocument()->toString(), before);
     QCOMPARE(m_window->document()->filePath(), current);
     QVERIFY(m_window->isWindowModified());
-    QCOMPARE(readAll(current), readAll(Examples + "/lunvex-kiosk.tavlocfg"));
+    QCOMPARE(fileContents(current), fileContents(Examples + "/lunvex-kiosk.tavlocfg"));
 }
 
 void TestMainWindow::applyRunsTheSettingsTool()
@@ -398,10 +393,10 @@ void TestMainWindow::applyRunsTheSettingsTool()
     QCOMPARE(settings.runs().size(), 1);
     QCOMPARE(settings.runs().constFirst().arguments, QStringList({ "-settings", "default.tavlocfg", "-set", "all" }));
     QCOMPARE(QDir(settings.runs().constFirst().workingDirectory).canonicalPath(), QDir(m_dir->path()).canonicalPath());
-    QVERIFY(readAll(m_dir->filePath(QStringLiteral("default.tavlocfg"))).contains("<layout>Norway</layout>"));
+    QVERIFY(fileContents(m_dir->filePath(QStringLiteral("default.tavlocfg"))).contains("<layout>Norway</layout>"));
     // Applying is not saving the file being edited.
     QVERIFY(m_window->isWindowModified());
-    QCOMPARE(readAll(path), readAll(Examples + "/lunvex-kiosk.tavlocfg"));
+    QCOMPARE(fileContents(path), fileContents(Examples + "/lunvex-kiosk.tavlocfg"));
 
     // A standalone wizard configures no device.
     m_window->standaloneCheck()->setChecked(true);
@@ -486,7 +481,7 @@ void TestMainWindow::connectionsReachTheFileOnce()
     m_chooser->path = saved;
     QVERIFY(m_window->saveAs());
     const QDomElement loaded = rootOf(Connections);
-    QDomElement file = rootOf(readAll(saved));
+    QDomElement file = rootOf(fileContents(saved));
     QCOMPARE(sessionNames(file, "rdp"), QStringLiteral("Main server"));
     QCOMPARE(sessionNames(file, "xenapp"), QStringLiteral("Portal"));
     QCOMPARE(sections(file, "desktop").size(), 1);
@@ -499,7 +494,7 @@ void TestMainWindow::connectionsReachTheFileOnce()
     // Applying on a device hands over what changed; the untouched ICA connection stays out.
     if (!standalone) {
         QVERIFY(m_window->applyToDevice());
-        const QDomElement applied = rootOf(readAll(m_dir->filePath(QStringLiteral("default.tavlocfg"))));
+        const QDomElement applied = rootOf(fileContents(m_dir->filePath(QStringLiteral("default.tavlocfg"))));
         QCOMPARE(sessionNames(applied, "rdp"), QStringLiteral("Main server"));
         QCOMPARE(sessionNames(applied, "xenapp"), QStringLiteral("Portal"));
         QCOMPARE(sections(applied, "ica").size(), 0);
@@ -514,7 +509,7 @@ void TestMainWindow::connectionsReachTheFileOnce()
     QTest::mouseClick(qobject_cast<QToolButton*>(connectionList()->table()->cellWidget(2, 1)), Qt::LeftButton);
     QVERIFY(box.answered());
     QVERIFY(m_window->save());
-    file = rootOf(readAll(saved));
+    file = rootOf(fileContents(saved));
     QCOMPARE(sessionNames(file, "xenapp"), QString());
     QCOMPARE(sessionNames(file, "rdp"), QStringLiteral("Main server"));
     QCOMPARE(sessionNames(file, "ica"), QStringLiteral("Citrix farm"));

@@ -1,3 +1,4 @@
+#include "filecontents.h"
 #include "mainwindow.h"
 #include "scriptedchooser.h"
 
@@ -27,12 +28,6 @@ const QByteArray Wes7Config = R"(<?xml version="1.0" encoding="utf-8"?>
  <display><resolution>1280x1024</resolution></display>
 </zelkon>
 )";
-
-QByteArray readAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // "section/key=value" for each value of the regional sections, in document order.
 QStringList regionalValues(const QDomDocument& document)
@@ -118,17 +113,17 @@ void TestRegionalWizard::changesAreSavedOnceAndComeBack_data()
     QTest::addColumn<QStringList>("changes"); // combo box name=entry to choose, in order
     QTest::addColumn<QStringList>("saved");
 
-    QTest::newRow("Lunvex") << int(Platform::Lunvex) << false << readAll(Examples + "/lunvex-kiosk.tavlocfg")
+    QTest::newRow("Lunvex") << int(Platform::Lunvex) << false << fileContents(Examples + "/lunvex-kiosk.tavlocfg")
                             << QStringList { "TimeZoneAreaCombo=Asia", "TimeZoneCityCombo=Kabul",
                                              "KeyboardLayoutCombo=Norway", "SystemLocaleCombo=French" }
                             << QStringList { "time_zone/area=Asia", "time_zone/city=Kabul", "keyboard/layout=Norway",
                                              "system_locale/locale=French" };
-    QTest::newRow("WES, standalone") << int(Platform::Wes) << true << readAll(Examples + "/wes-office.tavlocfg")
+    QTest::newRow("WES, standalone") << int(Platform::Wes) << true << fileContents(Examples + "/wes-office.tavlocfg")
                                      << QStringList { "TimeZoneCombo=(GMT+09:00) Osaka, Sapporo, Tokyo",
                                                       "KeyboardLayoutCombo=Japan", "SystemLocaleCombo=Japanese" }
                                      << QStringList { "time_zone/timezone=(GMT+09:00) Osaka, Sapporo, Tokyo",
                                                       "keyboard/layout=Japan", "system_locale/locale=Japanese" };
-    QTest::newRow("CE") << int(Platform::Ce) << false << readAll(Examples + "/ce-terminal.tavlocfg")
+    QTest::newRow("CE") << int(Platform::Ce) << false << fileContents(Examples + "/ce-terminal.tavlocfg")
                         << QStringList { "TimeZoneCombo=(GMT+10:00) Canberra, Melbourne, Sydney",
                                          "KeyboardLayoutCombo=Chinese (Simplified) - IME", "SystemLocaleCombo=German" }
                         << QStringList { "time_zone/timezone=(GMT+10:00) Canberra, Melbourne, Sydney",
@@ -176,7 +171,7 @@ void TestRegionalWizard::changesAreSavedOnceAndComeBack()
     const QString path = m_dir->filePath(QStringLiteral("saved.tavlocfg"));
     m_chooser->path = path;
     QVERIFY(m_window->saveAs());
-    const QDomDocument written = parse(readAll(path));
+    const QDomDocument written = parse(fileContents(path));
     QCOMPARE(regionalValues(written), saved);
     QCOMPARE(otherSections(written), otherSections(parse(contents)));
 
@@ -187,7 +182,7 @@ void TestRegionalWizard::changesAreSavedOnceAndComeBack()
     QVERIFY(!m_window->isWindowModified());
     m_chooser->path = m_dir->filePath(QStringLiteral("again.tavlocfg"));
     QVERIFY(m_window->saveAs());
-    QCOMPARE(regionalValues(parse(readAll(m_chooser->path))), saved);
+    QCOMPARE(regionalValues(parse(fileContents(m_chooser->path))), saved);
 }
 
 QTEST_MAIN(TestRegionalWizard)

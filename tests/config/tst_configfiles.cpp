@@ -1,5 +1,6 @@
 #include "config/configfile.h"
 #include "faketool.h"
+#include "filecontents.h"
 #include "modalanswer.h"
 #include "platform.h"
 
@@ -15,12 +16,6 @@ const QByteArray Schema = "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema
                           "<xs:sequence><xs:element name='volume' type='xs:int'/></xs:sequence>"
                           "<xs:anyAttribute processContents='skip'/>"
                           "</xs:complexType></xs:element></xs:schema>";
-
-QByteArray readFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 void writeFile(const QString& path, const QByteArray& contents)
 {
@@ -66,7 +61,7 @@ private slots:
     {
         ConfigFile config;
         QVERIFY(config.save(QStringLiteral("fresh.tavlocfg")));
-        QCOMPARE(readFile(QStringLiteral("fresh.tavlocfg")), FreshDocument);
+        QCOMPARE(fileContents(QStringLiteral("fresh.tavlocfg")), FreshDocument);
 
         // clear() keeps the declaration, the root and its attributes.
         config.addNode(QStringLiteral("sound"));
@@ -88,7 +83,7 @@ private slots:
         writeFile(path, "old");
         ConfigFile config;
         QVERIFY(!config.save(path));
-        QCOMPARE(readFile(path), QByteArray("old"));
+        QCOMPARE(fileContents(path), QByteArray("old"));
     }
 
     void writerMatchesQt_data()
@@ -121,7 +116,7 @@ private slots:
         QTextStream stream(&expected);
         config.QDomDocument::save(stream, 1);
         stream.flush();
-        QCOMPARE(readFile(QStringLiteral("out.tavlocfg")), expected.data());
+        QCOMPARE(fileContents(QStringLiteral("out.tavlocfg")), expected.data());
         QCOMPARE(config.toString(), config.QDomDocument::toString(1));
     }
 
@@ -148,7 +143,7 @@ private slots:
                          { QStringLiteral("in.tavlocfg"), QStringLiteral("out.tavlocfg") });
             QVERIFY(helper.waitForFinished(30000));
             QCOMPARE(helper.exitCode(), 0);
-            QCOMPARE(readFile(QStringLiteral("out.tavlocfg")), expected);
+            QCOMPARE(fileContents(QStringLiteral("out.tavlocfg")), expected);
         }
     }
 
@@ -258,7 +253,7 @@ private slots:
             QCOMPARE(tool.runs().size(), 1);
             QCOMPARE(tool.runs().first().arguments, (QStringList { "-settings", "default.tavlocfg", "-set", "all" }));
         }
-        QVERIFY(readFile(QStringLiteral("elsewhere.tavlocfg")).contains("<sound/>"));
+        QVERIFY(fileContents(QStringLiteral("elsewhere.tavlocfg")).contains("<sound/>"));
         QVERIFY(!QFile::exists(QStringLiteral("default.tavlocfg")));
 
         // Without the tool the file is still saved, and nobody is told.
@@ -267,7 +262,7 @@ private slots:
         const bool dialog = opensDialog([&config] { config.apply(QStringLiteral("default.tavlocfg")); });
         qputenv("PATH", oldPath);
         QVERIFY(!dialog);
-        QVERIFY(readFile(QStringLiteral("default.tavlocfg")).contains("<sound/>"));
+        QVERIFY(fileContents(QStringLiteral("default.tavlocfg")).contains("<sound/>"));
     }
 
     void validate()

@@ -1,5 +1,6 @@
 #include "config/configfile.h"
 #include "config/parseguard.h"
+#include "filecontents.h"
 #include "platform.h"
 
 #include <QElapsedTimer>
@@ -7,12 +8,6 @@
 #include <QtTest>
 
 namespace {
-QByteArray readFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 void writeFile(const QString& path, const QByteArray& contents)
 {
     QFile file(path);
@@ -194,7 +189,7 @@ private slots:
         QVERIFY(config.findNode(QStringLiteral("session"), 0));
         config.setValue(QStringLiteral("name"), value);
         QVERIFY(!config.save(QStringLiteral("config.tavlocfg")));
-        QCOMPARE(readFile(QStringLiteral("config.tavlocfg")), old);
+        QCOMPARE(fileContents(QStringLiteral("config.tavlocfg")), old);
         QCOMPARE(config.unwritablePath(), QStringLiteral("zelkon/rdp/session/name"));
 
         // In an attribute too.
