@@ -2,6 +2,7 @@
 #include "connections/model/connectionkindred.h"
 #include "connections/model/connectionmodel.h"
 #include "connections/model/connectionsession.h"
+#include "editorwidgets.h"
 #include "modalanswer.h"
 #include "sessionroundtrip.h"
 
@@ -17,14 +18,6 @@
 #include <algorithm>
 
 namespace {
-template <typename T> T* child(QWidget& editor, const char* name)
-{
-    T* widget = editor.findChild<T*>(QLatin1String(name));
-    if (!widget)
-        qFatal("no widget %s", name);
-    return widget;
-}
-
 void select(QComboBox* combo, const QString& shown)
 {
     const int index = combo->findText(shown);

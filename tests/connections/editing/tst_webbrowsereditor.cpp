@@ -3,6 +3,7 @@
 #include "connections/model/connectionkindred.h"
 #include "connections/model/connectionmodel.h"
 #include "connections/model/connectionsession.h"
+#include "editorwidgets.h"
 #include "modalanswer.h"
 #include "sessionroundtrip.h"
 
@@ -14,20 +15,6 @@
 #include <QtTest>
 
 namespace {
-template <typename T> T* child(QWidget& editor, const char* name)
-{
-    T* widget = editor.findChild<T*>(QLatin1String(name));
-    if (!widget)
-        qFatal("no widget %s", name);
-    return widget;
-}
-
-void retype(QLineEdit* edit, const QString& text)
-{
-    edit->clear();
-    QTest::keyClicks(edit, text);
-}
-
 struct Proxy
 {
     bool enabled;
