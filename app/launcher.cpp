@@ -2,6 +2,7 @@
 
 #include "commandline.h"
 #include "configfilecheck.h"
+#include "displaycheck.h"
 #include "mainwindow.h"
 #include "pagescreenshotter.h"
 
@@ -63,6 +64,23 @@ QStringList Launcher::prepareArguments(int& argc, char** argv)
     if (needsNoDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     return arguments;
+}
+
+int Launcher::checkBeforeStart(const QStringList& arguments)
+{
+    CommandLine commandLine;
+    if (!commandLine.parse(arguments)) {
+        err() << commandLine.errorText() << '\n' << tr("Try --help.") << Qt::endl;
+        return 2;
+    }
+    // prepareArguments() has chosen the offscreen platform for these.
+    const bool windowless
+        = commandLine.helpRequested() || commandLine.versionRequested() || !commandLine.screenshotDirectory().isEmpty();
+    if (!windowless && !DisplayCheck::availableHere()) {
+        err() << DisplayCheck::missingText() << Qt::endl;
+        return 1;
+    }
+    return -1;
 }
 
 int Launcher::run(const QStringList& arguments)

@@ -23,6 +23,10 @@ public:
     // its own: returns the whole command line for run() and leaves in argc/argv only
     // what the application object may see.
     static QStringList prepareArguments(int& argc, char** argv);
+    // Still before the application object, whose creation ends the process when there is
+    // no display: refuses a command line that makes no sense, then a window without a
+    // display, each with a message. -1 to go on, otherwise the exit code.
+    static int checkBeforeStart(const QStringList& arguments);
     // arguments as prepareArguments() returned them. Returns the exit code; runs the
     // event loop unless the arguments ask for something else.
     static int run(const QStringList& arguments);
