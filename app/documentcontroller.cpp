@@ -191,8 +191,11 @@ bool DocumentController::apply(QString* reason)
     // The settings tool applies whatever "default.tavlocfg" holds, so it must not run
     // when this configuration could not be written there.
     if (!m_generated->save(applyFileName())) {
+        // The user chose no file here, so the message must say which one it was.
+        const QString path = QDir::current().absoluteFilePath(applyFileName());
         if (reason)
-            *reason = saveFailureReason(QDir::current().absoluteFilePath(applyFileName()));
+            *reason = tr("The settings tool reads the configuration from \"%1\", which could not be written. %2")
+                          .arg(QDir::toNativeSeparators(path), saveFailureReason(path));
         return false;
     }
     m_generated->apply(applyFileName());
