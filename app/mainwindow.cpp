@@ -1,10 +1,12 @@
 #include "mainwindow.h"
 
+#include "busyfeedback.h"
 #include "documentcontroller.h"
 #include "filechooser.h"
 #include "hostedprinterframe.h"
 
 #include "config/configfile.h"
+#include "device/externaltool.h"
 #include "pages/configpage.h"
 #include "pages/zelkonconnectionspage.h"
 #include "pages/zelkonmanagementpage.h"
@@ -25,6 +27,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
@@ -42,20 +45,25 @@
 
 namespace {
 const int StatusTimeoutMs = 5000;
+// The help pane takes this share of the width beside the page list, within these bounds.
+const int HelpPercent = 25;
+const int MinimumHelpWidth = 165;
+const int MaximumHelpWidth = 300;
 
 QString nativePath(const QString& path)
 {
     return QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
 }
 
-// A container page with nothing to offer (no frames, or all hidden by platform rules).
-bool hasNoVisibleFrames(WizardPage* page)
+// A container page whose frames the platform rules and package probes have all hidden.
+bool hasOnlyHiddenFrames(WizardPage* page)
 {
     auto* configPage = qobject_cast<ConfigPage*>(page);
     if (!configPage || !configPage->accordion())
         return false;
     const QList<AccordionItem*> items = configPage->accordion()->items();
-    return std::none_of(items.cbegin(), items.cend(), [](AccordionItem* item) { return !item->isHidden(); });
+    return !items.isEmpty()
+        && std::none_of(items.cbegin(), items.cend(), [](AccordionItem* item) { return !item->isHidden(); });
 }
 } // namespace
 
@@ -65,6 +73,9 @@ MainWindow::MainWindow(QWidget* parent)
     , m_fileChooser(std::make_unique<FileChooser>())
 {
     setObjectName(QStringLiteral("MainWindow"));
+    // The application's resources live in a static library, which the linker would drop.
+    Q_INIT_RESOURCE(app);
+    setWindowIcon(QIcon(QStringLiteral(":/zelkon/zelkon.svg")));
     createActions();
     createWidgets();
     createPages();
@@ -117,7 +128,8 @@ void MainWindow::createActions()
     connect(m_saveAction, &QAction::triggered, this, &MainWindow::save);
 
     m_saveAsAction = new QAction(tr("Save &As..."), this);
-    m_saveAsAction->setShortcut(QKeySequence::SaveAs);
+    // Not QKeySequence::SaveAs, which some platforms leave without a key.
+    m_saveAsAction->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     m_saveAsAction->setStatusTip(tr("Save the configuration under a new name"));
     connect(m_saveAsAction, &QAction::triggered, this, &MainWindow::saveAs);
 
@@ -147,7 +159,6 @@ void MainWindow::createWidgets()
 {
     m_pageList = new QListWidget;
     m_pageList->setObjectName(QStringLiteral("PageList"));
-    m_pageList->setFixedWidth(170);
     m_pageList->setIconSize(QSize(16, 16));
     m_pageList->setSpacing(2);
     connect(m_pageList, &QListWidget::currentRowChanged, this, &MainWindow::showPage);
@@ -177,7 +188,6 @@ void MainWindow::createWidgets()
     m_emptyHint->setAlignment(Qt::AlignCenter);
     m_emptyHint->setWordWrap(true);
     m_emptyHint->setEnabled(false);
-    m_emptyHint->setText(tr("There is nothing to set on this page for the selected platform on this machine."));
 
     m_stack = new QStackedWidget;
     m_stack->setObjectName(QStringLiteral("PageStack"));
@@ -210,20 +220,25 @@ void MainWindow::createWidgets()
     m_helpView->setOpenExternalLinks(true);
     auto* helpPane = new QWidget;
     auto* helpLayout = new QVBoxLayout(helpPane);
+    // Every pixel of a narrow pane goes to the text; the window's margin is outside it.
+    helpLayout->setContentsMargins(0, -1, 0, -1);
     helpLayout->addWidget(helpTitle);
     helpLayout->addWidget(m_helpView);
 
-    auto* splitter = new QSplitter(Qt::Horizontal);
-    splitter->setChildrenCollapsible(false);
-    splitter->addWidget(content);
-    splitter->addWidget(helpPane);
-    splitter->setStretchFactor(0, 1);
-    splitter->setSizes({ 540, 280 });
+    helpPane->setMinimumWidth(MinimumHelpWidth);
+    m_splitter = new QSplitter(Qt::Horizontal);
+    m_splitter->setObjectName(QStringLiteral("PageSplitter"));
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->addWidget(content);
+    m_splitter->addWidget(helpPane);
+    m_splitter->setStretchFactor(0, 1);
+    m_splitter->installEventFilter(this);
+    connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_helpWidthChosen = true; });
 
     auto* central = new QWidget;
     auto* centralLayout = new QHBoxLayout(central);
     centralLayout->addWidget(m_pageList);
-    centralLayout->addWidget(splitter, 1);
+    centralLayout->addWidget(m_splitter, 1);
     setCentralWidget(central);
 
     m_standaloneCheck = new QCheckBox(tr("Standalone"));
@@ -270,6 +285,9 @@ void MainWindow::createPages()
     connect(m_summaryPage, &ZelkonSummaryPage::generateConfig, m_document, &DocumentController::generate);
     connect(m_summaryPage, &ZelkonSummaryPage::saveConfig, this, &MainWindow::save);
     connect(m_summaryPage, &ZelkonSummaryPage::applyConfig, this, &MainWindow::applyToDevice);
+    m_summaryPage->summaryView()->setPlaceholderText(
+        tr("Nothing has been set yet, so there is nothing to save or apply. Open a configuration file, or "
+           "change settings on the pages before this one, and they will be listed here."));
     QPushButton* saveButton = m_summaryPage->saveButton();
     m_buttonRow->insertWidget(0, saveButton);
     saveButton->setIcon(QApplication::style()->standardIcon(QStyle::SP_DialogSaveButton));
@@ -303,11 +321,12 @@ QWidget* MainWindow::createTitleArea()
     m_currentFileLabel = new QLabel;
     m_currentFileLabel->setObjectName(QStringLiteral("CurrentFile"));
     m_currentFileLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_currentFileLabel->setWordWrap(true);
 
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(openButton);
-    buttons->addWidget(saveButton);
-    buttons->addStretch();
+    // One above the other, so that the page stays narrow enough for small screens.
+    auto* buttons = new QVBoxLayout;
+    buttons->addWidget(openButton, 0, Qt::AlignLeft);
+    buttons->addWidget(saveButton, 0, Qt::AlignLeft);
     auto* area = new QWidget;
     auto* layout = new QVBoxLayout(area);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -336,6 +355,9 @@ void MainWindow::buildContainerPages()
     }
     for (int index = 0; index < PageCount; ++index)
         m_pageList->item(index)->setText(QStringLiteral("%1.  %2").arg(index + 1).arg(m_pages.at(index)->title()));
+    // As wide as the longest title, so that the page itself gets the rest.
+    m_pageList->setFixedWidth(m_pageList->sizeHintForColumn(0) + 2 * m_pageList->frameWidth()
+                              + 4 * m_pageList->spacing());
     m_document->setPages(containerPages());
     m_pagesPristine = true;
     emit containerPagesBuilt();
@@ -395,7 +417,9 @@ void MainWindow::refreshPageFrame()
     const QString description = shown->description();
     m_headerDescription->setText(description);
     m_headerDescription->setVisible(!description.isEmpty() && description != shown->title());
-    m_emptyHint->setVisible(hasNoVisibleFrames(shown));
+    m_emptyHint->setVisible(hasOnlyHiddenFrames(shown));
+    m_emptyHint->setText(tr("None of this page's settings apply to %1 with the software installed here.")
+                             .arg(Platform::list().value(Platform::instance()->target())));
     m_helpView->setHtml(shown->helpText());
 }
 
@@ -454,7 +478,19 @@ bool MainWindow::open()
 bool MainWindow::openFile(const QString& path)
 {
     QString reason;
-    if (!m_document->load(path, &reason)) {
+    bool loaded = false;
+    {
+        // On a WES or CE device the document layer first has the settings tool fetch the
+        // device's current settings, which may take as long as the tool's time limit.
+        const bool fetches = (Platform::isWes() || Platform::isCe()) && !Platform::isStandalone();
+        const BusyFeedback busy(statusBar(),
+                                fetches ? tr("Reading the Thin Client's current settings; this may take up to %1 "
+                                             "seconds...")
+                                              .arg(ExternalTool::DefaultTimeoutMs / 1000)
+                                        : tr("Opening %1...").arg(QFileInfo(path).fileName()));
+        loaded = m_document->load(path, &reason);
+    }
+    if (!loaded) {
         QMessageBox::warning(this, tr("Zelkon"),
                              tr("The file \"%1\" cannot be opened.\n\n%2").arg(nativePath(path), reason));
         return false;
@@ -473,7 +509,9 @@ bool MainWindow::save()
 
 bool MainWindow::saveAs()
 {
-    const QString path = m_fileChooser->saveFileName(this, startDirectory());
+    // Starting from the current file makes "save a copy next to it" one edit of the name.
+    const QString start = m_document->filePath().isEmpty() ? startDirectory() : m_document->filePath();
+    const QString path = m_fileChooser->saveFileName(this, start);
     if (path.isEmpty())
         return false;
     return saveTo(path);
@@ -499,7 +537,12 @@ bool MainWindow::applyToDevice()
     if (Platform::isStandalone())
         return false;
     QString reason;
-    if (!m_document->apply(&reason)) {
+    bool applied = false;
+    {
+        const BusyFeedback busy(statusBar(), tr("Applying the configuration to this Thin Client..."));
+        applied = m_document->apply(&reason);
+    }
+    if (!applied) {
         QMessageBox::critical(this, tr("Zelkon"),
                               tr("The configuration could not be applied to this Thin Client.\n\n%1").arg(reason));
         return false;
@@ -524,6 +567,18 @@ bool MainWindow::maybeSave()
     default:
         return false;
     }
+}
+
+// The page gets the space first: the help pane shrinks with the window, down to a readable
+// width, until the user sizes it by hand.
+bool MainWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_splitter && event->type() == QEvent::Resize && !m_helpWidthChosen) {
+        const int total = m_splitter->width() - m_splitter->handleWidth();
+        const int help = qBound(MinimumHelpWidth, total * HelpPercent / 100, MaximumHelpWidth);
+        m_splitter->setSizes({ total - help, help });
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -14,6 +14,7 @@ class QLabel;
 class QListWidget;
 class QPushButton;
 class QScrollArea;
+class QSplitter;
 class QStackedWidget;
 class QTextBrowser;
 class WizardPage;
@@ -79,6 +80,7 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void createActions();
@@ -114,6 +116,9 @@ private:
     QLabel* m_emptyHint = nullptr;
     QLabel* m_currentFileLabel = nullptr;
     QStackedWidget* m_stack = nullptr;
+    QSplitter* m_splitter = nullptr;
+    // The user has moved the help pane's edge; from then on the window leaves it there.
+    bool m_helpWidthChosen = false;
     QTextBrowser* m_helpView = nullptr;
     QHBoxLayout* m_buttonRow = nullptr;
     QPushButton* m_backButton = nullptr;

@@ -70,7 +70,7 @@ QComboBox* DisplayFrame::createCombo(const QString& objectName)
     // Long choices ("Span across monitors…") open in full in the list; the closed combo
     // need not be as wide, so the page fits beside the help.
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo->setMinimumContentsLength(12);
+    combo->setMinimumContentsLength(10);
     return combo;
 }
 

@@ -19,7 +19,10 @@ PlatformChoiceFrame::PlatformChoiceFrame(const QString& section, const QString& 
     , m_comboBox(new QComboBox(this))
     , m_emptyNote(new QLabel(this))
 {
-    m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    // The longest layouts and locales would make the page wider than a small screen; the
+    // list still opens with every name in full.
+    m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_comboBox->setMinimumContentsLength(16);
     m_label->setBuddy(m_comboBox);
     auto* layout = new QFormLayout(this);
     layout->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);

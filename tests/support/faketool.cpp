@@ -32,6 +32,12 @@ void FakeTool::setExitCode(int exitCode)
     writeScript();
 }
 
+void FakeTool::setDelayMs(int delayMs)
+{
+    m_delayMs = delayMs;
+    writeScript();
+}
+
 void FakeTool::setWritesFile(const QString& fileName, const QByteArray& contents)
 {
     m_writtenFileName = fileName;
@@ -53,6 +59,8 @@ void FakeTool::writeScript()
     if (!m_writtenFileName.isEmpty())
         script += QStringLiteral("cp %1 %2\n")
                       .arg(shellQuote(m_dir.filePath(QStringLiteral("payload"))), shellQuote(m_writtenFileName));
+    if (m_delayMs > 0)
+        script += QStringLiteral("sleep %1\n").arg(m_delayMs / 1000.0);
     script += QStringLiteral("exit %1\n").arg(m_exitCode);
 
     QFile file(m_dir.filePath(m_name));

@@ -20,6 +20,8 @@ public:
     FakeTool& operator=(const FakeTool&) = delete;
 
     void setExitCode(int exitCode);
+    // Each run takes at least that long, as a device's tool may.
+    void setDelayMs(int delayMs);
     // Each run writes contents to fileName in its working directory.
     void setWritesFile(const QString& fileName, const QByteArray& contents);
 
@@ -36,6 +38,7 @@ private:
     QString m_name;
     QTemporaryDir m_dir;
     int m_exitCode;
+    int m_delayMs = 0;
     QString m_writtenFileName;
     QByteArray m_writtenContents;
     QByteArray m_oldPath;
