@@ -67,7 +67,7 @@ QString cutOff(QWidget* widget, QWidget* window)
 
 // A help word too wide for the pane, which would be broken in the middle, or "" when
 // every word fits. Web addresses are allowed to break.
-QString helpWordsFit(QTextBrowser* help)
+QString helpWordTooWide(QTextBrowser* help)
 {
     QFont bold = help->font();
     bold.setBold(true);
@@ -179,7 +179,7 @@ void TestWindowPolish::everyPageFitsSmallScreens()
                  qPrintable(QStringLiteral("page %1 scrolls sideways by %2")
                                 .arg(index)
                                 .arg(area->horizontalScrollBar()->maximum())));
-        QVERIFY2(helpWordsFit(m_window->helpView()).isEmpty(), qPrintable(helpWordsFit(m_window->helpView())));
+        QVERIFY2(helpWordTooWide(m_window->helpView()).isEmpty(), qPrintable(helpWordTooWide(m_window->helpView())));
         // Each frame, opened, fits the width as well.
         if (auto* page = qobject_cast<ConfigPage*>(m_window->page(index))) {
             for (AccordionItem* item : page->accordion()->items()) {
@@ -192,7 +192,8 @@ void TestWindowPolish::everyPageFitsSmallScreens()
                                         .arg(index)
                                         .arg(area->horizontalScrollBar()->maximum())
                                         .arg(QLatin1String(item->content()->metaObject()->className()))));
-                QVERIFY2(helpWordsFit(m_window->helpView()).isEmpty(), qPrintable(helpWordsFit(m_window->helpView())));
+                QVERIFY2(helpWordTooWide(m_window->helpView()).isEmpty(),
+                         qPrintable(helpWordTooWide(m_window->helpView())));
             }
         }
         // What is meant to be seen without scrolling: the page's own buttons and texts,
@@ -231,7 +232,7 @@ void TestWindowPolish::helpKeepsWordsWholeAt640x480()
     for (int index = 0; index < MainWindow::PageCount; ++index) {
         m_window->showPage(index);
         QApplication::processEvents();
-        QVERIFY2(helpWordsFit(m_window->helpView()).isEmpty(), qPrintable(helpWordsFit(m_window->helpView())));
+        QVERIFY2(helpWordTooWide(m_window->helpView()).isEmpty(), qPrintable(helpWordTooWide(m_window->helpView())));
     }
 }
 
