@@ -93,6 +93,7 @@ int Launcher::run(const QStringList& arguments)
     }
 
     MainWindow window;
+    window.setReviewChanges(true);
     if (commandLine.standalone())
         window.standaloneCheck()->setChecked(true);
     if (commandLine.platformIndex() >= 0)

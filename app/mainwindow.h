@@ -43,6 +43,9 @@ public:
 
     // Replaces the file dialogs (tests answer with their own paths).
     void setFileChooser(std::unique_ptr<FileChooser> chooser);
+    // Before saving and applying, show what changed against the file as opened and let
+    // the user go back. Off unless the application turns it on.
+    void setReviewChanges(bool review) { m_reviewChanges = review; }
 
     DocumentController* document() const { return m_document; }
     WizardPage* page(int index) const;
@@ -93,6 +96,7 @@ private:
     void refreshPageFrame();
     void updateWindowTitle();
     bool maybeSave();
+    bool confirmPendingChanges(bool applying);
     QString documentName() const;
     QString startDirectory() const;
 
@@ -106,6 +110,7 @@ private:
     int m_current = -1;
     // No page has loaded a document or reported a change since the pages were built.
     bool m_pagesPristine = true;
+    bool m_reviewChanges = false;
 
     QListWidget* m_pageList = nullptr;
     QWidget* m_header = nullptr;
