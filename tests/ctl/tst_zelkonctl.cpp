@@ -51,10 +51,12 @@ class TestZelkonCtl : public QObject
 
 private slots:
     void init();
+    void linksNoWidgets();
     void usage_data();
     void usage();
     void check_data();
     void check();
+    void checkManyFiles();
     void showFormats();
     void diff();
     void getAndSet();
@@ -82,6 +84,18 @@ QString TestZelkonCtl::write(const QString& name, const QByteArray& contents)
     if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
         qFatal("cannot write %s", qPrintable(path));
     return path;
+}
+
+// It runs where there is no display because nothing in it can make a widget.
+void TestZelkonCtl::linksNoWidgets()
+{
+    QProcess ldd;
+    ldd.start(QStringLiteral("ldd"), { QStringLiteral(ZELKONCTL) });
+    if (!ldd.waitForFinished(30000))
+        QSKIP("ldd is not available");
+    const QString libraries = QString::fromLocal8Bit(ldd.readAllStandardOutput());
+    QVERIFY2(libraries.contains("libtavlozelkon_core"), qPrintable(libraries));
+    QVERIFY2(!libraries.contains("Widgets") && !libraries.contains("libtavlozelkon_lib"), qPrintable(libraries));
 }
 
 void TestZelkonCtl::usage_data()
@@ -142,6 +156,24 @@ void TestZelkonCtl::check()
         QCOMPARE(outcome.err.count('\n'), 1);
         QVERIFY2(outcome.err.startsWith(errors), qPrintable(outcome.err));
     }
+}
+
+// Enough files to be checked in parallel; the report keeps the order of the arguments.
+void TestZelkonCtl::checkManyFiles()
+{
+    const QByteArray good = fileContents(Examples + "/wes-office.tavlocfg");
+    QStringList files;
+    for (int i = 0; i < 300; ++i) {
+        const bool bad = i == 7 || i == 250;
+        files.append(write(QStringLiteral("f%1.tavlocfg").arg(i),
+                           bad ? document(" <usb><enable>maybe</enable></usb>\n") : good));
+    }
+    const Outcome outcome = zelkonctl(QStringList { "check" } + files);
+    QCOMPARE(outcome.exitCode, 1);
+    const QStringList lines = outcome.err.split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 2);
+    QVERIFY2(lines.at(0).startsWith(files.at(7) + ":3:"), qPrintable(lines.at(0)));
+    QVERIFY2(lines.at(1).startsWith(files.at(250) + ":3:"), qPrintable(lines.at(1)));
 }
 
 void TestZelkonCtl::showFormats()
