@@ -88,7 +88,8 @@ void PendingChangesDialog::fillTree()
             sectionItem->setFont(0, bold);
             sectionItem->setFirstColumnSpanned(true);
         }
-        QString key = change.key;
+        // Keys directly in a section get the summary's label; record paths stay as they are.
+        QString key = change.key.contains(QLatin1Char('/')) ? change.key : labels.sectionAlias(change.key);
         switch (change.kind) {
         case ConfigDiff::Change::Kind::Added:
             key = tr("%1 (added)").arg(key);

@@ -125,7 +125,7 @@ void TestPendingChanges::saveShowsChangesAndCanGoBack()
     QCOMPARE(title, QStringLiteral("Pending Changes"));
     QCOMPARE(
         shown,
-        (QStringList { "Keyboard||", "layout|Germany|Norway", "Remote_assistance||", "password|********|********" }));
+        (QStringList { "Keyboard||", "Layout|Germany|Norway", "Remote_assistance||", "Password|********|********" }));
     QCOMPARE(saved, goOn);
     QCOMPARE(QFile::exists(path), goOn);
     if (goOn)
@@ -141,7 +141,7 @@ void TestPendingChanges::applyShowsTheSameChanges()
     QString title;
     // Going back never reaches the device.
     QVERIFY(!answer([&] { return m_window->applyToDevice(); }, false, &shown, &title));
-    QCOMPARE(shown, (QStringList { "Keyboard||", "layout|Germany|Norway" }));
+    QCOMPARE(shown, (QStringList { "Keyboard||", "Layout|Germany|Norway" }));
     QVERIFY(!QFile::exists(m_dir->filePath(QStringLiteral("default.tavlocfg"))));
 }
 
