@@ -4,6 +4,7 @@
 #include "emptyvalueholders.h"
 
 #include "config/configfile.h"
+#include "config/configschema.h"
 #include "connections/model/connectionmodel.h"
 #include "pages/configpage.h"
 
@@ -18,6 +19,8 @@ DocumentController::DocumentController(QObject* parent)
     , m_loaded(std::make_unique<ConfigFile>())
     , m_generated(std::make_unique<ConfigFile>())
 {
+    // The summary page validates the generated document.
+    m_generated->setSchema(ConfigSchema::shipped());
 }
 
 DocumentController::~DocumentController() = default;

@@ -111,6 +111,7 @@ int Launcher::run(const QStringList& arguments)
     }
 
     MainWindow window;
+    window.setReviewChanges(true);
     if (commandLine.standalone())
         window.standaloneCheck()->setChecked(true);
     if (commandLine.platformIndex() >= 0)

@@ -4,6 +4,7 @@
 #include "documentcontroller.h"
 #include "filechooser.h"
 #include "hostedprinterframe.h"
+#include "pendingchangesdialog.h"
 
 #include "config/configfile.h"
 #include "device/externaltool.h"
@@ -519,6 +520,8 @@ bool MainWindow::saveAs()
 
 bool MainWindow::saveTo(const QString& path)
 {
+    if (!confirmPendingChanges(false))
+        return false;
     QString reason;
     if (!m_document->save(path, &reason)) {
         QMessageBox::critical(
@@ -534,7 +537,7 @@ bool MainWindow::saveTo(const QString& path)
 
 bool MainWindow::applyToDevice()
 {
-    if (Platform::isStandalone())
+    if (Platform::isStandalone() || !confirmPendingChanges(true))
         return false;
     QString reason;
     bool applied = false;
@@ -549,6 +552,17 @@ bool MainWindow::applyToDevice()
     }
     statusBar()->showMessage(tr("The configuration was handed to the Thin Client's settings tool."), StatusTimeoutMs);
     return true;
+}
+
+bool MainWindow::confirmPendingChanges(bool applying)
+{
+    if (!m_reviewChanges)
+        return true;
+    m_document->generate();
+    PendingChangesDialog dialog(ConfigDiff::compare(*m_document->loadedDocument(), *m_document->generatedDocument()),
+                                applying ? PendingChangesDialog::Purpose::Apply : PendingChangesDialog::Purpose::Save,
+                                this);
+    return dialog.exec() == QDialog::Accepted;
 }
 
 bool MainWindow::maybeSave()

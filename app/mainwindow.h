@@ -44,6 +44,9 @@ public:
 
     // Replaces the file dialogs (tests answer with their own paths).
     void setFileChooser(std::unique_ptr<FileChooser> chooser);
+    // Before saving and applying, show what changed against the file as opened and let
+    // the user go back. Off unless the application turns it on.
+    void setReviewChanges(bool review) { m_reviewChanges = review; }
 
     DocumentController* document() const { return m_document; }
     WizardPage* page(int index) const;
@@ -95,6 +98,7 @@ private:
     void refreshPageFrame();
     void updateWindowTitle();
     bool maybeSave();
+    bool confirmPendingChanges(bool applying);
     QString documentName() const;
     QString startDirectory() const;
 
@@ -108,6 +112,7 @@ private:
     int m_current = -1;
     // No page has loaded a document or reported a change since the pages were built.
     bool m_pagesPristine = true;
+    bool m_reviewChanges = false;
 
     QListWidget* m_pageList = nullptr;
     QWidget* m_header = nullptr;

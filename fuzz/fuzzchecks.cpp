@@ -2,7 +2,7 @@
 
 #include "config/configfile.h"
 #include "connections/model/connectionmodel.h"
-#include "printers/printermodel.h"
+#include "printers/model/printermodel.h"
 
 void FuzzChecks::document(const QString& path)
 {

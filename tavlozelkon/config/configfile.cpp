@@ -7,12 +7,12 @@
 #include "messagehandler.h"
 #include "parseguard.h"
 #include "platform.h"
+#include "validationnotice.h"
 #include "xmlcharacters.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
-#include <QMessageBox>
 #include <QSaveFile>
 #include <QTextStream>
 #include <QUrl>
@@ -387,13 +387,13 @@ bool ConfigFile::validate()
     if (validator.validate(data, QUrl())) {
         const QString text = tr("The configuration file is valid.");
         qDebug().noquote() << text;
-        QMessageBox::information(nullptr, tr("Validation"), text, QMessageBox::Ok);
+        ValidationNotice::tell(tr("Validation"), text);
         m_valid = true;
     } else {
         m_errorMessage = m_messageHandler->description();
         const QString text = tr("The configuration file is invalid. ");
         qDebug().noquote() << text + QLatin1Char('"') + m_errorMessage + QLatin1Char('"');
-        QMessageBox::information(nullptr, tr("Validation"), text + m_errorMessage, QMessageBox::Ok);
+        ValidationNotice::tell(tr("Validation"), text + m_errorMessage);
         m_valid = false;
     }
     return m_valid;

@@ -3,6 +3,7 @@
 #include "config/configfile.h"
 
 #include "platform.h"
+#include "validationbox.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -13,6 +14,8 @@ ZelkonSummaryPage::ZelkonSummaryPage(ConfigFile* config, QWidget* parent)
     : WizardPage(parent)
     , m_config(config)
 {
+    // The page's validate button has the document tell its verdict in a box.
+    ValidationBox::install();
     setup();
 }
 

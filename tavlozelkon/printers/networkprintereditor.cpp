@@ -1,7 +1,7 @@
 #include "networkprintereditor.h"
 
 #include "connections/editing/portvalidator.h"
-#include "printermodel.h"
+#include "model/printermodel.h"
 
 #include "flagifinvalid.h"
 

@@ -2,8 +2,8 @@
 
 #include "tavlozelkon_lib_export.h"
 
+#include "model/printermodel.h"
 #include "pages/configframe.h"
-#include "printermodel.h"
 
 class PrinterEditor;
 

@@ -1,7 +1,7 @@
 #include "networkprinterlistpage.h"
 
 #include "connections/editing/buttondelegate.h"
-#include "printermodel.h"
+#include "model/printermodel.h"
 
 #include <QEvent>
 #include <QHeaderView>

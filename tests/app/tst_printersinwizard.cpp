@@ -5,11 +5,11 @@
 #include "modalanswer.h"
 
 #include "pages/configpage.h"
+#include "printers/model/printermodel.h"
 #include "printers/networkprintereditor.h"
 #include "printers/networkprinterframe.h"
 #include "printers/networkprinterlistpage.h"
 #include "printers/printereditor.h"
-#include "printers/printermodel.h"
 
 #include "accordion.h"
 #include "accordionitem.h"

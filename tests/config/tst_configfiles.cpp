@@ -2,6 +2,7 @@
 #include "faketool.h"
 #include "filecontents.h"
 #include "modalanswer.h"
+#include "pages/validationbox.h"
 #include "platform.h"
 
 #include <QTextCodec>
@@ -267,6 +268,8 @@ private slots:
 
     void validate()
     {
+        // As the summary page does; without it the verdict goes to nobody.
+        ValidationBox::install();
         ConfigFile config;
         config.setIntValue(QStringLiteral("volume"), 5);
         bool valid = true;

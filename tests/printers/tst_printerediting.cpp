@@ -1,10 +1,10 @@
 #include "modalanswer.h"
 
+#include "printers/model/printermodel.h"
 #include "printers/networkprintereditor.h"
 #include "printers/networkprinterframe.h"
 #include "printers/networkprinterlistpage.h"
 #include "printers/printereditor.h"
-#include "printers/printermodel.h"
 
 #include <QAction>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #include "config/configfile.h"
+#include "printers/model/printermodel.h"
 #include "printers/networkprinterframe.h"
-#include "printers/printermodel.h"
 
 #include <QSignalSpy>
 #include <QUuid>

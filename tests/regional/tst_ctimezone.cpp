@@ -1,6 +1,6 @@
 #include "devicetree.h"
 
-#include "regional/ctimezone.h"
+#include "regional/model/ctimezone.h"
 
 #include <QTest>
 #include <QTextStream>

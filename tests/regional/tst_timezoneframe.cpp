@@ -1,6 +1,6 @@
 #include "regionaldocument.h"
 
-#include "regional/ctimezone.h"
+#include "regional/model/ctimezone.h"
 #include "regional/timezoneframe.h"
 
 #include "platform.h"

@@ -4,6 +4,7 @@
 #include "connections/model/connectionmodel.h"
 #include "devicetree.h"
 #include "platform.h"
+#include "schemacheck.h"
 
 #include <QDomDocument>
 #include <QString>
@@ -28,13 +29,17 @@ public:
         return QStringLiteral("<zelkon version=\"1.0\">") + sections + QStringLiteral("</zelkon>");
     }
 
-    // Saves the model into the document, which then holds what a saved file would.
+    // Saves the model into the document, which then holds what a saved file would; false
+    // also when that is not valid against the schema.
     bool save(ConnectionModel& model)
     {
         if (!m_file.setContent(document(QString())))
             return false;
         model.saveConfig(&m_file);
-        return true;
+        const QStringList problems = schemaProblems(m_file.toString().toUtf8());
+        for (const QString& problem : problems)
+            qWarning("%s", qPrintable(problem));
+        return problems.isEmpty();
     }
 
     // Loads the document into the model.
