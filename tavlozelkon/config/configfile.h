@@ -11,6 +11,7 @@
 #include <memory>
 
 class AttributeOrder;
+class ElementSearch;
 class MessageHandler;
 
 /*
@@ -23,6 +24,12 @@ class MessageHandler;
  * Failures are results (false, -1, empty strings), never exceptions; file errors are
  * silent at this level, but load() and save() also say whether they succeeded so that an
  * application can tell its user.
+ *
+ * Walking a record list by index and appending records one by one cost time in
+ * proportion to the list, not to its square (see ElementSearch). Changes made through
+ * the QDomDocument interface instead of this class's own calls are noticed at the next
+ * setCurrentNodeAsRoot(), clear() or load(), which is where such callers hand the cursor
+ * back to the document anyway.
  */
 class TAVLOZELKON_LIB_EXPORT ConfigFile : public QDomDocument
 {
@@ -107,6 +114,9 @@ public:
 private:
     void addXmlVersion();
     void addRootNode();
+    // Appends an element called name to the cursor and moves the cursor onto it; the
+    // cursor must be an element.
+    void appendElement(const QString& name);
     void createSectionAliasList();
 
     QDomNode m_currentNode;
@@ -119,4 +129,5 @@ private:
     ExternalTool::Result m_lastToolResult;
     // Kept so that saving writes attributes in a stable order (see AttributeOrder).
     std::unique_ptr<AttributeOrder> m_attributeOrder;
+    std::unique_ptr<ElementSearch> m_search;
 };

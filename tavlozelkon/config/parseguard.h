@@ -4,8 +4,10 @@
 
 #include <QString>
 #include <QtGlobal>
+#include <functional>
 
 class QByteArray;
+class QXmlStreamReader;
 
 /*
  * Decides whether bytes may be handed to the DOM parser at all. The DOM parser recurses
@@ -43,5 +45,9 @@ public:
         bool accepted() const { return verdict == Verdict::Accepted; }
     };
 
-    static Result check(const QByteArray& content);
+    // Called with the reader standing on each start element, in document order, so that a
+    // caller can learn what it needs from this pass instead of reading the bytes again.
+    using ElementObserver = std::function<void(const QXmlStreamReader&)>;
+
+    static Result check(const QByteArray& content, const ElementObserver& observer = {});
 };
