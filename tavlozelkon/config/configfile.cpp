@@ -116,7 +116,8 @@ bool ConfigFile::removeNode(QString name, int index)
         return false;
     QDomNode parent = m_currentNode.parentNode();
     parent.removeChild(m_currentNode);
-    m_search->forgetCounts();
+    // Also lets go of a list that would keep the removed elements alive.
+    m_search->clear();
     m_currentNode = parent;
     return true;
 }
