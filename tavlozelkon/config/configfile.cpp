@@ -17,6 +17,7 @@
 #include <QSaveFile>
 #include <QTextStream>
 #include <QUrl>
+#include <QXmlSchema>
 #include <QXmlSchemaValidator>
 #include <QXmlStreamReader>
 
@@ -31,7 +32,6 @@ ConfigFile::ConfigFile()
     , m_attributeOrder(std::make_unique<AttributeOrder>())
     , m_search(std::make_unique<ElementSearch>())
 {
-    m_schema.setMessageHandler(m_messageHandler.get());
     m_currentNode = *this;
     addXmlVersion();
     addRootNode();
@@ -397,16 +397,20 @@ void ConfigFile::loadSchema()
 
 bool ConfigFile::setSchema(const QByteArray& schemaData)
 {
-    return m_schema.load(schemaData) && m_schema.isValid();
+    if (!m_schema) {
+        m_schema = std::make_unique<QXmlSchema>();
+        m_schema->setMessageHandler(m_messageHandler.get());
+    }
+    return m_schema->load(schemaData) && m_schema->isValid();
 }
 
 bool ConfigFile::validate()
 {
-    if (!m_schema.isValid())
+    if (!m_schema || !m_schema->isValid())
         return false;
 
     const QByteArray data = toString().toUtf8();
-    QXmlSchemaValidator validator(m_schema);
+    QXmlSchemaValidator validator(*m_schema);
     validator.setMessageHandler(m_messageHandler.get());
     if (validator.validate(data, QUrl())) {
         const QString text = tr("The configuration file is valid.");

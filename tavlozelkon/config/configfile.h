@@ -7,12 +7,12 @@
 #include <QDomDocument>
 #include <QMap>
 #include <QString>
-#include <QXmlSchema>
 #include <memory>
 
 class AttributeOrder;
 class ElementSearch;
 class MessageHandler;
+class QXmlSchema;
 
 /*
  * The one configuration document the whole wizard edits: an XML DOM document below a
@@ -122,7 +122,9 @@ private:
     QDomNode m_currentNode;
     bool m_valid = false;
     QString m_errorMessage;
-    QXmlSchema m_schema;
+    // Made when a schema is supplied: the first schema object of a process costs more
+    // than the rest of the document, and most never validate.
+    std::unique_ptr<QXmlSchema> m_schema;
     std::unique_ptr<MessageHandler> m_messageHandler;
     QMap<QString, QString> m_sectionAliases;
     QString m_fileName;
