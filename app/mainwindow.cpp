@@ -40,6 +40,7 @@
 #include <QStatusBar>
 #include <QStyle>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -97,11 +98,14 @@ void MainWindow::setFileChooser(std::unique_ptr<FileChooser> chooser)
 
 WizardPage* MainWindow::page(int index) const
 {
+    if (index > TitlePage && index < SummaryPage)
+        ensureContainerPages();
     return m_pages.value(index);
 }
 
 QList<ConfigPage*> MainWindow::containerPages() const
 {
+    ensureContainerPages();
     QList<ConfigPage*> pages;
     for (WizardPage* each : m_pages) {
         if (auto* configPage = qobject_cast<ConfigPage*>(each))
@@ -306,7 +310,8 @@ void MainWindow::createPages()
     m_pageAreas.at(SummaryPage)->setWidget(m_summaryPage);
     connectPage(m_titlePage);
     connectPage(m_summaryPage);
-    buildContainerPages();
+    m_pageList->item(TitlePage)->setText(pageListText(TitlePage));
+    m_pageList->item(SummaryPage)->setText(pageListText(SummaryPage));
 }
 
 // The title page asks for loading and saving through its signals; these are its buttons.
@@ -353,15 +358,39 @@ void MainWindow::buildContainerPages()
         m_pageAreas.at(index)->setWidget(pages.at(i));
         connectPage(pages.at(i));
         connect(pages.at(i), &WizardPage::modified, this, &MainWindow::onPageModified);
+        m_pageList->item(index)->setText(pageListText(index));
     }
-    for (int index = 0; index < PageCount; ++index)
-        m_pageList->item(index)->setText(QStringLiteral("%1.  %2").arg(index + 1).arg(m_pages.at(index)->title()));
     // As wide as the longest title, so that the page itself gets the rest.
     m_pageList->setFixedWidth(m_pageList->sizeHintForColumn(0) + 2 * m_pageList->frameWidth()
                               + 4 * m_pageList->spacing());
+    const bool rebuilt = m_containerPagesBuilt;
+    m_containerPagesBuilt = true;
     m_document->setPages(containerPages());
     m_pagesPristine = true;
-    emit containerPagesBuilt();
+    if (rebuilt)
+        emit containerPagesBuilt();
+}
+
+void MainWindow::ensureContainerPages() const
+{
+    // Building them changes no state a caller could have seen before.
+    if (!m_containerPagesBuilt)
+        const_cast<MainWindow*>(this)->buildContainerPages();
+}
+
+QString MainWindow::pageListText(int index) const
+{
+    return QStringLiteral("%1.  %2").arg(index + 1).arg(m_pages.at(index)->title());
+}
+
+void MainWindow::paintEvent(QPaintEvent* event)
+{
+    QMainWindow::paintEvent(event);
+    if (m_painted)
+        return;
+    m_painted = true;
+    // Queued, so that this paint reaches the screen first.
+    QTimer::singleShot(0, this, [this] { ensureContainerPages(); });
 }
 
 void MainWindow::connectPage(WizardPage* page)
@@ -382,6 +411,8 @@ void MainWindow::showPage(int index)
 {
     if (index < 0 || index >= PageCount)
         return;
+    if (index != TitlePage && index != SummaryPage)
+        ensureContainerPages();
     m_current = index;
     WizardPage* shown = m_pages.at(index);
     shown->setupToShow();
@@ -447,6 +478,7 @@ void MainWindow::onPlatformChanged()
 
 void MainWindow::preparePagesForDocument()
 {
+    ensureContainerPages();
     if (!m_pagesPristine)
         buildContainerPages();
     m_document->loadPages();

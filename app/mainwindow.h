@@ -30,6 +30,10 @@ class ZelkonTitlePage;
  * they have been used: a frame whose section a file lacks keeps what it held, dirty mark
  * included, so reusing the pages would carry the previous configuration's settings into
  * the next one.
+ *
+ * The first container pages are built right after the window's first paint, so that the
+ * window shows up before the frames are made and the machine is probed; anything that
+ * asks for them earlier gets them built at once.
  */
 class MainWindow : public QMainWindow
 {
@@ -78,12 +82,14 @@ public slots:
     bool applyToDevice();
 
 signals:
-    // The container pages were (re)built; containerPages() holds the new ones.
+    // The container pages were built anew; containerPages() holds the new ones. Not
+    // emitted for the first pages, which are there whenever they are asked for.
     void containerPagesBuilt();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void createActions();
@@ -91,6 +97,8 @@ private:
     void createPages();
     QWidget* createTitleArea();
     void buildContainerPages();
+    void ensureContainerPages() const;
+    QString pageListText(int index) const;
     void preparePagesForDocument();
     void connectPage(WizardPage* page);
     void onPageModified();
@@ -113,6 +121,8 @@ private:
     // No page has loaded a document or reported a change since the pages were built.
     bool m_pagesPristine = true;
     bool m_reviewChanges = false;
+    bool m_containerPagesBuilt = false;
+    bool m_painted = false;
 
     QListWidget* m_pageList = nullptr;
     QWidget* m_header = nullptr;

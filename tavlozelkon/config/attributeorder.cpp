@@ -4,26 +4,7 @@
 #include <QDomNamedNodeMap>
 #include <QXmlStreamReader>
 #include <algorithm>
-
-namespace {
-// Pre-order without recursion, so that no depth of document can exhaust the stack.
-void collectElements(const QDomNode& top, QList<QDomElement>& elements)
-{
-    QDomNode node = top.firstChild();
-    while (!node.isNull()) {
-        if (node.isElement()) {
-            elements.append(node.toElement());
-            if (node.hasChildNodes()) {
-                node = node.firstChild();
-                continue;
-            }
-        }
-        while (node.nextSibling().isNull() && node.parentNode() != top)
-            node = node.parentNode();
-        node = node.nextSibling();
-    }
-}
-} // namespace
+#include <utility>
 
 const QStringList& AttributeOrder::rootAttributes()
 {
@@ -35,45 +16,58 @@ const QStringList& AttributeOrder::rootAttributes()
 void AttributeOrder::clear()
 {
     m_loaded.clear();
+    m_notes.clear();
+    m_notedElements = 0;
 }
 
-void AttributeOrder::record(const QDomDocument& document, const QByteArray& content)
+void AttributeOrder::noteElement(const QXmlStreamReader& reader)
+{
+    const int index = m_notedElements++;
+    const QXmlStreamAttributes attributes = reader.attributes();
+    if (attributes.isEmpty())
+        return;
+    Note note { index, reader.qualifiedName().toString(), {} };
+    note.attributes.reserve(attributes.size());
+    for (const QXmlStreamAttribute& attribute : attributes)
+        note.attributes.append(attribute.qualifiedName().toString());
+    m_notes.append(note);
+}
+
+void AttributeOrder::pairWith(const QDomDocument& document)
 {
     m_loaded.clear();
-
-    struct Start
-    {
-        QString name;
-        QStringList attributes;
-    };
-    QList<Start> starts;
-    QXmlStreamReader reader(content);
-    reader.setNamespaceProcessing(true);
-    while (!reader.atEnd()) {
-        if (reader.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        Start start { reader.qualifiedName().toString(), {} };
-        const QXmlStreamAttributes attributes = reader.attributes();
-        for (const QXmlStreamAttribute& attribute : attributes)
-            start.attributes.append(attribute.qualifiedName().toString());
-        starts.append(start);
-    }
+    const QList<Note> notes = std::exchange(m_notes, {});
+    const int notedElements = std::exchange(m_notedElements, 0);
 
     // Both parsers see the same elements in the same pre-order; if they ever disagree the
-    // pairing below would be wrong, and ordering by name is the safer fallback.
-    QList<QDomElement> elements;
-    collectElements(document, elements);
-    if (elements.size() != starts.size())
-        return;
-    for (int i = 0; i < elements.size(); ++i) {
-        if (elements.at(i).nodeName() != starts.at(i).name) {
-            m_loaded.clear();
-            return;
+    // pairing would be wrong, and ordering by name is the safer fallback. Pre-order without
+    // recursion, so that no depth of document can exhaust the stack.
+    int index = 0;
+    auto note = notes.cbegin();
+    QDomNode node = document.firstChild();
+    while (!node.isNull()) {
+        if (node.isElement()) {
+            if (note != notes.cend() && note->index == index) {
+                const QDomElement element = node.toElement();
+                if (element.nodeName() != note->name) {
+                    m_loaded.clear();
+                    return;
+                }
+                m_loaded.insert(Position(element.lineNumber(), element.columnNumber()), note->attributes);
+                ++note;
+            }
+            ++index;
+            if (node.hasChildNodes()) {
+                node = node.firstChild();
+                continue;
+            }
         }
-        if (!starts.at(i).attributes.isEmpty())
-            m_loaded.insert(Position(elements.at(i).lineNumber(), elements.at(i).columnNumber()),
-                            starts.at(i).attributes);
+        while (node.nextSibling().isNull() && !node.parentNode().isNull() && !node.parentNode().isDocument())
+            node = node.parentNode();
+        node = node.nextSibling();
     }
+    if (index != notedElements || note != notes.cend())
+        m_loaded.clear();
 }
 
 QList<QDomAttr> AttributeOrder::ordered(const QDomElement& element, bool isDocumentElement) const

@@ -6,9 +6,9 @@
 #include <QPair>
 #include <QStringList>
 
-class QByteArray;
 class QDomAttr;
 class QDomDocument;
+class QXmlStreamReader;
 
 /*
  * The order in which a configuration file's elements carried their attributes. Qt's DOM
@@ -26,8 +26,12 @@ public:
     static const QStringList& rootAttributes();
 
     void clear();
-    // Reads content (the bytes document was just parsed from) once more, in document order.
-    void record(const QDomDocument& document, const QByteArray& content);
+    // Recording is done alongside the one streaming pass that reads a file anyway (see
+    // ParseGuard::check()), so that a file is not parsed a second time for it: note every
+    // start element of the file in document order, then pair the notes with the document
+    // the same bytes were parsed into.
+    void noteElement(const QXmlStreamReader& reader);
+    void pairWith(const QDomDocument& document);
 
     // The element's attributes: on the document element rootAttributes() first; then those
     // recorded at load time in their file order; then any added since, by name.
@@ -35,5 +39,16 @@ public:
 
 private:
     using Position = QPair<int, int>;
+
+    struct Note
+    {
+        int index;
+        QString name;
+        QStringList attributes;
+    };
+
     QHash<Position, QStringList> m_loaded;
+    // Only elements with attributes; index counts all elements in document order.
+    QList<Note> m_notes;
+    int m_notedElements = 0;
 };

@@ -4,6 +4,7 @@
 #include "connections/model/connectionmodel.h"
 #include "device/externaltool.h"
 #include "domwriter.h"
+#include "elementsearch.h"
 #include "messagehandler.h"
 #include "parseguard.h"
 #include "platform.h"
@@ -16,7 +17,9 @@
 #include <QSaveFile>
 #include <QTextStream>
 #include <QUrl>
+#include <QXmlSchema>
 #include <QXmlSchemaValidator>
+#include <QXmlStreamReader>
 
 namespace {
 const QString RootName = QStringLiteral("zelkon");
@@ -27,8 +30,8 @@ const QString DeviceSettingsFile = QStringLiteral("default.tavlocfg");
 ConfigFile::ConfigFile()
     : m_messageHandler(std::make_unique<MessageHandler>())
     , m_attributeOrder(std::make_unique<AttributeOrder>())
+    , m_search(std::make_unique<ElementSearch>())
 {
-    m_schema.setMessageHandler(m_messageHandler.get());
     m_currentNode = *this;
     addXmlVersion();
     addRootNode();
@@ -60,10 +63,13 @@ bool ConfigFile::findNode(QString name, int index)
 {
     if (!m_currentNode.isElement() || index < 0)
         return false;
-    const QDomNodeList matches = m_currentNode.toElement().elementsByTagName(name);
-    if (index >= matches.count())
+    const QDomElement top = m_currentNode.toElement();
+    // Reading a value asks for index 0 far more often than anything else; that search
+    // stops at the first match and leaves the remembered list alone.
+    const QDomNode match = index == 0 ? ElementSearch::first(top, name) : m_search->matches(top, name).at(index);
+    if (match.isNull())
         return false;
-    m_currentNode = matches.at(index);
+    m_currentNode = match;
     return true;
 }
 
@@ -80,11 +86,17 @@ int ConfigFile::addNode(QString name)
 {
     if (!m_currentNode.isElement())
         return -1;
-    const int count = m_currentNode.toElement().elementsByTagName(name).count();
+    const int count = m_search->count(m_currentNode.toElement(), name);
+    appendElement(name);
+    return count;
+}
+
+void ConfigFile::appendElement(const QString& name)
+{
     const QDomElement element = createElement(name);
     m_currentNode.appendChild(element);
+    m_search->elementAppended(m_currentNode.toElement(), name);
     m_currentNode = element;
-    return count;
 }
 
 bool ConfigFile::leaveNode()
@@ -104,6 +116,8 @@ bool ConfigFile::removeNode(QString name, int index)
         return false;
     QDomNode parent = m_currentNode.parentNode();
     parent.removeChild(m_currentNode);
+    // Also lets go of a list that would keep the removed elements alive.
+    m_search->clear();
     m_currentNode = parent;
     return true;
 }
@@ -122,11 +136,12 @@ int ConfigFile::namedNodeCount(QString name)
 {
     if (!m_currentNode.isElement())
         return 0;
-    return m_currentNode.toElement().elementsByTagName(name).count();
+    return m_search->matches(m_currentNode.toElement(), name).count();
 }
 
 void ConfigFile::setCurrentNodeAsRoot()
 {
+    m_search->forgetCounts();
     m_currentNode = findNode(RootName, firstChild());
 }
 
@@ -187,8 +202,10 @@ void ConfigFile::setBoolValue(QString key, bool b)
 
 void ConfigFile::createTextNode(QString key, QString text)
 {
-    if (addNode(key) < 0)
+    // As addNode(key), without counting namesakes for a result nobody reads.
+    if (!m_currentNode.isElement())
         return;
+    appendElement(key);
     m_currentNode.appendChild(QDomDocument::createTextNode(text));
 }
 
@@ -235,6 +252,7 @@ void ConfigFile::setAttributeValue(QString name, QString value)
 
 void ConfigFile::clear()
 {
+    m_search->clear();
     m_currentNode = documentElement();
     while (!m_currentNode.firstChild().isNull())
         m_currentNode.removeChild(m_currentNode.firstChild());
@@ -286,18 +304,24 @@ bool ConfigFile::load(QString path)
         return false;
     const QByteArray content = file.isSequential() ? file.read(ParseGuard::MaxFileBytes + 1) : file.readAll();
     file.close();
-    const ParseGuard::Verdict verdict = ParseGuard::check(content).verdict;
+    // The guard's pass is the only streaming read of the file; the attribute order is
+    // noted during it rather than by parsing the bytes a second time.
+    auto order = std::make_unique<AttributeOrder>();
+    const ParseGuard::Verdict verdict
+        = ParseGuard::check(content, [&order](const QXmlStreamReader& reader) { order->noteElement(reader); }).verdict;
     if (verdict != ParseGuard::Verdict::Accepted && verdict != ParseGuard::Verdict::NotWellFormed)
         return false;
 
+    m_search->clear();
     const bool parsed = verdict == ParseGuard::Verdict::Accepted && setContent(content, true);
     if (parsed) {
-        m_attributeOrder->record(*this, content);
+        order->pairWith(*this);
     } else {
         // Qt keeps what it parsed up to the error; half a configuration is worse than none.
         QDomNode::clear();
-        m_attributeOrder->clear();
+        order->clear();
     }
+    m_attributeOrder = std::move(order);
     m_currentNode = documentElement();
     // A file that did not parse left an empty document, which is no successful load.
     return parsed;
@@ -373,16 +397,20 @@ void ConfigFile::loadSchema()
 
 bool ConfigFile::setSchema(const QByteArray& schemaData)
 {
-    return m_schema.load(schemaData) && m_schema.isValid();
+    if (!m_schema) {
+        m_schema = std::make_unique<QXmlSchema>();
+        m_schema->setMessageHandler(m_messageHandler.get());
+    }
+    return m_schema->load(schemaData) && m_schema->isValid();
 }
 
 bool ConfigFile::validate()
 {
-    if (!m_schema.isValid())
+    if (!m_schema || !m_schema->isValid())
         return false;
 
     const QByteArray data = toString().toUtf8();
-    QXmlSchemaValidator validator(m_schema);
+    QXmlSchemaValidator validator(*m_schema);
     validator.setMessageHandler(m_messageHandler.get());
     if (validator.validate(data, QUrl())) {
         const QString text = tr("The configuration file is valid.");

@@ -7,11 +7,12 @@
 #include <QDomDocument>
 #include <QMap>
 #include <QString>
-#include <QXmlSchema>
 #include <memory>
 
 class AttributeOrder;
+class ElementSearch;
 class MessageHandler;
+class QXmlSchema;
 
 /*
  * The one configuration document the whole wizard edits: an XML DOM document below a
@@ -23,6 +24,12 @@ class MessageHandler;
  * Failures are results (false, -1, empty strings), never exceptions; file errors are
  * silent at this level, but load() and save() also say whether they succeeded so that an
  * application can tell its user.
+ *
+ * Walking a record list by index and appending records one by one cost time in
+ * proportion to the list, not to its square (see ElementSearch). Changes made through
+ * the QDomDocument interface instead of this class's own calls are noticed at the next
+ * setCurrentNodeAsRoot(), clear() or load(), which is where such callers hand the cursor
+ * back to the document anyway.
  */
 class TAVLOZELKON_LIB_EXPORT ConfigFile : public QDomDocument
 {
@@ -107,16 +114,22 @@ public:
 private:
     void addXmlVersion();
     void addRootNode();
+    // Appends an element called name to the cursor and moves the cursor onto it; the
+    // cursor must be an element.
+    void appendElement(const QString& name);
     void createSectionAliasList();
 
     QDomNode m_currentNode;
     bool m_valid = false;
     QString m_errorMessage;
-    QXmlSchema m_schema;
+    // Made when a schema is supplied: the first schema object of a process costs more
+    // than the rest of the document, and most never validate.
+    std::unique_ptr<QXmlSchema> m_schema;
     std::unique_ptr<MessageHandler> m_messageHandler;
     QMap<QString, QString> m_sectionAliases;
     QString m_fileName;
     ExternalTool::Result m_lastToolResult;
     // Kept so that saving writes attributes in a stable order (see AttributeOrder).
     std::unique_ptr<AttributeOrder> m_attributeOrder;
+    std::unique_ptr<ElementSearch> m_search;
 };

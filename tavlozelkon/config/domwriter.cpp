@@ -30,6 +30,10 @@ QString encodeText(const QString& text, const QTextStream& stream, bool encodeQu
                    bool encodeCarriageReturns)
 {
     const QTextCodec* codec = stream.codec();
+    // Asking the codec costs a conversion per character; a Unicode encoding holds every
+    // character but half of a surrogate pair, for which the codec is still asked.
+    const int mib = codec ? codec->mibEnum() : 0;
+    const bool unicode = mib == 106 || (mib >= 1013 && mib <= 1015) || (mib >= 1017 && mib <= 1019);
     QString result;
     result.reserve(text.size());
     for (int i = 0; i < text.size(); ++i) {
@@ -63,7 +67,7 @@ QString encodeText(const QString& text, const QTextStream& stream, bool encodeQu
             result += attributeValue ? QLatin1String("&#x9;") : QLatin1String("\t");
             break;
         default:
-            if (!codec || codec->canEncode(c))
+            if (!codec || (unicode && !c.isSurrogate()) || codec->canEncode(c))
                 result += c;
             else
                 result += QLatin1String("&#x") + QString::number(c.unicode(), 16) + QLatin1Char(';');

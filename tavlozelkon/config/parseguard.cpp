@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QXmlStreamReader>
 
-ParseGuard::Result ParseGuard::check(const QByteArray& content)
+ParseGuard::Result ParseGuard::check(const QByteArray& content, const ElementObserver& observer)
 {
     Result result;
     if (content.size() > MaxFileBytes) {
@@ -30,6 +30,8 @@ ParseGuard::Result ParseGuard::check(const QByteArray& content)
             const QXmlStreamAttributes attributes = reader.attributes();
             for (const QXmlStreamAttribute& attribute : attributes)
                 text += attribute.value().size();
+            if (observer)
+                observer(reader);
             break;
         }
         case QXmlStreamReader::EndElement:

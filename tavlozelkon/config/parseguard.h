@@ -4,8 +4,10 @@
 
 #include <QString>
 #include <QtGlobal>
+#include <functional>
 
 class QByteArray;
+class QXmlStreamReader;
 
 /*
  * Decides whether bytes may be handed to the DOM parser at all. The DOM parser recurses
@@ -19,8 +21,10 @@ class TAVLOZELKON_LIB_EXPORT ParseGuard
 public:
     ParseGuard() = delete;
 
-    // Larger files are refused before they are read.
-    static constexpr qint64 MaxFileBytes = 1024 * 1024;
+    // Larger files are refused before they are read. A configuration of this size holds
+    // some 36,000 connections, far beyond any real one; loading, editing and saving it
+    // takes seconds and a few hundred megabytes, which bounds what a hostile file can cost.
+    static constexpr qint64 MaxFileBytes = 8 * 1024 * 1024;
     // Elements inside one another, the root counting as one.
     static constexpr int MaxDepth = 128;
     // Characters of text and attribute values after entity expansion. A file within
@@ -43,5 +47,9 @@ public:
         bool accepted() const { return verdict == Verdict::Accepted; }
     };
 
-    static Result check(const QByteArray& content);
+    // Called with the reader standing on each start element, in document order, so that a
+    // caller can learn what it needs from this pass instead of reading the bytes again.
+    using ElementObserver = std::function<void(const QXmlStreamReader&)>;
+
+    static Result check(const QByteArray& content, const ElementObserver& observer = {});
 };

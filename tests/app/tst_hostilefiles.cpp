@@ -89,9 +89,12 @@ private slots:
         QTest::newRow("deep nesting") << nested(30000) << "nested more than 128 levels deep (line 1)";
         QTest::newRow("large entity used often") << entityFile(50000, 50000) << "not an XML document";
         QTest::newRow("entities expanding to much text")
-            << entityFile(ParseGuard::MaxEntityExpansion, 2000) << "expand to more than 2 million characters";
-        QTest::newRow("too large") << QByteArray("<zelkon>" + QByteArray(3 * 1024 * 1024, ' ') + "</zelkon>")
-                                   << "larger than 1 MB";
+            << entityFile(ParseGuard::MaxEntityExpansion,
+                          int(ParseGuard::MaxTextCharacters / ParseGuard::MaxEntityExpansion) + 2)
+            << QStringLiteral("expand to more than %1 million characters").arg(ParseGuard::MaxTextCharacters / 1000000);
+        QTest::newRow("too large") << QByteArray(
+            "<zelkon>" + QByteArray(int(ParseGuard::MaxFileBytes) + 1024 * 1024, ' ') + "</zelkon>")
+                                   << QStringLiteral("larger than %1 MB").arg(ParseGuard::MaxFileBytes / (1024 * 1024));
         QTest::newRow("invalid UTF-8") << QByteArray("<zelkon><keyboard><layout>\xff</layout></keyboard></zelkon>")
                                        << "not an XML document";
     }

@@ -9,6 +9,7 @@
 #include "modalanswer.h"
 
 #include "config/configfile.h"
+#include "config/parseguard.h"
 #include "connections/editing/categorizedlistwidget.h"
 #include "connections/editing/connectionlistpage.h"
 #include "connections/editing/connectionselectorpage.h"
@@ -344,12 +345,14 @@ void TestMainWindow::refusalsKeepTheConfiguration_data()
     QTest::addColumn<QByteArray>("contents");
     QTest::addColumn<QString>("reason");
 
-    const QByteArray garbage = QByteArray("\x8f<\x01z\xff&\x7f>", 8).repeated(10 * 1024 * 1024 / 8);
+    const QByteArray garbage
+        = QByteArray("\x8f<\x01z\xff&\x7f>", 8).repeated(int(ParseGuard::MaxFileBytes + 2 * 1024 * 1024) / 8);
     QTest::newRow("missing") << false << QByteArray() << "does not exist";
     QTest::newRow("empty") << false << QByteArray("") << "empty";
     QTest::newRow("not XML") << false << QByteArray("[Display]\nResolution=1024x768\n") << "not an XML document";
     QTest::newRow("wrong root") << false << QByteArray("<?xml version=\"1.0\"?><settings/>") << "<settings>";
-    QTest::newRow("10 MB of garbage") << false << garbage << "larger than 1 MB";
+    QTest::newRow("garbage beyond the size limit")
+        << false << garbage << QStringLiteral("larger than %1 MB").arg(ParseGuard::MaxFileBytes / (1024 * 1024));
     // A parent that is a regular file defeats even root.
     QTest::newRow("save below a file") << true << QByteArray() << "is not a folder";
 }

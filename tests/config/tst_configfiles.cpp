@@ -121,6 +121,30 @@ private slots:
         QCOMPARE(config.toString(), config.QDomDocument::toString(1));
     }
 
+    void writerMatchesQtForEveryCharacter_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::newRow("accents and symbols") << QStringLiteral("caf\u00e9 \u20ac \u010d \ufffd");
+        QTest::newRow("pair of surrogates") << QStringLiteral("smile \U0001F600 end");
+        QTest::newRow("lone high surrogate") << QStringLiteral("a") + QChar(0xD83D) + QStringLiteral("b");
+        QTest::newRow("lone low surrogate") << QString(QChar(0xDE00));
+    }
+
+    void writerMatchesQtForEveryCharacter()
+    {
+        // The writer asks the encoding only about surrogates; the result must not show it.
+        QFETCH(QString, value);
+        for (const QByteArray& encoding : { QByteArrayLiteral("utf-8"), QByteArrayLiteral("UTF-16") }) {
+            ConfigFile config;
+            QVERIFY(config.setContent(
+                QStringLiteral("<?xml version=\"1.0\" encoding=\"%1\"?><zelkon/>").arg(QLatin1String(encoding))));
+            config.setCurrentNodeAsRoot();
+            config.setValue(QStringLiteral("name"), value);
+            config.setAttributeValue(QStringLiteral("note"), value);
+            QCOMPARE(config.toString(), config.QDomDocument::toString(1));
+        }
+    }
+
     void sameBytesInEveryProcess()
     {
         // Attributes: the root's three first, then those loaded in file order, then new ones by name.

@@ -1,5 +1,7 @@
 #include "configatom.h"
 
+#include <QChildEvent>
+
 ConfigAtom::ConfigAtom(const QString& name)
     : QObject(nullptr)
 {
@@ -13,10 +15,18 @@ ConfigAtom::ConfigAtom(const QString& name, ConfigAtom* parent)
     if (parent) {
         m_dirtyFlagEnabled = parent->m_dirtyFlagEnabled;
         m_dirty = parent->m_dirty;
+        // The parent's child event came while this was no atom yet and had no name.
+        parent->childAdded(this);
     }
 }
 
-ConfigAtom::~ConfigAtom() = default;
+ConfigAtom::~ConfigAtom()
+{
+    // While its parent destroys its children the parent is no atom any more, and then
+    // there is no index to keep.
+    if (auto* parentAtom = qobject_cast<ConfigAtom*>(parent()))
+        parentAtom->childGone(this, objectName());
+}
 
 QString ConfigAtom::name() const
 {
@@ -25,7 +35,10 @@ QString ConfigAtom::name() const
 
 void ConfigAtom::setName(const QString& name)
 {
+    const QString oldName = objectName();
     setObjectName(name);
+    if (auto* parentAtom = qobject_cast<ConfigAtom*>(parent()))
+        parentAtom->childRenamed(this, oldName);
     setDirty();
 }
 
@@ -110,10 +123,59 @@ QList<ConfigAtom*> ConfigAtom::atoms() const
 
 ConfigAtom* ConfigAtom::findAtom(const QString& name) const
 {
-    for (QObject* child : children()) {
-        auto* node = qobject_cast<ConfigAtom*>(child);
-        if (node && node->objectName() == name)
-            return node;
+    if (name.isEmpty()) {
+        // Sessions are made nameless and named at once; only such lookups scan.
+        for (QObject* child : children()) {
+            auto* node = qobject_cast<ConfigAtom*>(child);
+            if (node && node->objectName().isEmpty())
+                return node;
+        }
+        return nullptr;
     }
-    return nullptr;
+    if (!m_childIndexValid) {
+        m_childIndex.clear();
+        for (QObject* child : children()) {
+            auto* node = qobject_cast<ConfigAtom*>(child);
+            if (node && !node->objectName().isEmpty() && !m_childIndex.contains(node->objectName()))
+                m_childIndex.insert(node->objectName(), node);
+        }
+        m_childIndexValid = true;
+    }
+    return m_childIndex.value(name);
+}
+
+void ConfigAtom::childEvent(QChildEvent* event)
+{
+    // Children under construction or destruction are no atoms here; the constructor and
+    // destructor report them instead.
+    auto* child = qobject_cast<ConfigAtom*>(event->child());
+    if (!child)
+        return;
+    if (event->added())
+        childAdded(child);
+    else if (event->removed())
+        childGone(child, child->objectName());
+}
+
+void ConfigAtom::childAdded(ConfigAtom* child)
+{
+    // A new child comes last, so a namesake already indexed stays the first.
+    if (m_childIndexValid && !child->objectName().isEmpty() && !m_childIndex.contains(child->objectName()))
+        m_childIndex.insert(child->objectName(), child);
+}
+
+void ConfigAtom::childGone(ConfigAtom* child, const QString& name)
+{
+    // A later namesake may take its place; finding it is left to the next lookup.
+    if (m_childIndexValid && m_childIndex.value(name) == child)
+        m_childIndexValid = false;
+}
+
+void ConfigAtom::childRenamed(ConfigAtom* child, const QString& oldName)
+{
+    childGone(child, oldName);
+    // Whether the child comes before a namesake already indexed is not known here.
+    if (m_childIndexValid && m_childIndex.contains(child->objectName()))
+        m_childIndexValid = false;
+    childAdded(child);
 }

@@ -3,6 +3,7 @@
 #include "tavlozelkon_lib_export.h"
 
 #include <QByteArray>
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -14,6 +15,10 @@
  * marks the node and its ancestors dirty, up to the first node whose marking is
  * disabled; the dirty flag decides what is written back to the configuration document.
  * Nothing ever clears it: a fresh tree is built for each load.
+ *
+ * Children are found by name through an index, since a connection type may hold
+ * thousands of sessions and loading looks each one up. Names change through setName();
+ * the index does not notice a bare QObject::setObjectName().
  */
 class TAVLOZELKON_LIB_EXPORT ConfigAtom : public QObject
 {
@@ -48,9 +53,19 @@ public:
     // The first child of that name, or null; unlike atom() it never changes the tree.
     ConfigAtom* findAtom(const QString& name) const;
 
+protected:
+    // Keeps the index when children are moved here or away with QObject::setParent().
+    void childEvent(QChildEvent* event) override;
+
 private:
     void setDirtyFlagEnabled(bool enabled);
+    void childAdded(ConfigAtom* child);
+    void childGone(ConfigAtom* child, const QString& name);
+    void childRenamed(ConfigAtom* child, const QString& oldName);
 
     bool m_dirtyFlagEnabled = true;
     bool m_dirty = false;
+    // The first child of each non-empty name, in children() order; built on first use.
+    mutable QHash<QString, ConfigAtom*> m_childIndex;
+    mutable bool m_childIndexValid = false;
 };

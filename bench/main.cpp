@@ -1,0 +1,315 @@
+// Times the document pipeline for growing documents and the wizard's start-up; see
+// printUsage(). Not a test: the figures depend on the machine, so nothing here passes or
+// fails.
+#include "benchdocument.h"
+#include "childprocess.h"
+#include "firstpaintprobe.h"
+#include "pipeline.h"
+
+#include "device/machineroot.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTextStream>
+#include <algorithm>
+#include <cmath>
+
+namespace {
+QTextStream& out()
+{
+    static QTextStream stream(stdout);
+    return stream;
+}
+
+QString here(const char* name)
+{
+    return QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(name));
+}
+
+QString deviceTree()
+{
+    return QStringLiteral(ZELKON_SOURCE_DIR "/examples/device");
+}
+
+// The least-squares slope of log(time) over log(size): 1 for linear growth, 2 for quadratic.
+double growthExponent(const QList<int>& sizes, const QList<double>& values)
+{
+    double sumX = 0, sumY = 0, sumXX = 0, sumXY = 0;
+    const int n = sizes.size();
+    for (int i = 0; i < n; ++i) {
+        const double x = std::log(double(sizes.at(i)));
+        const double y = std::log(std::max(values.at(i), 1e-3));
+        sumX += x;
+        sumY += y;
+        sumXX += x * x;
+        sumXY += x * y;
+    }
+    const double denominator = n * sumXX - sumX * sumX;
+    return denominator == 0 ? 0 : (n * sumXY - sumX * sumY) / denominator;
+}
+
+QString milliseconds(double microseconds)
+{
+    return microseconds >= 100000 ? QString::number(microseconds / 1000, 'f', 0) + QLatin1String(" ms")
+                                  : QString::number(microseconds / 1000, 'f', 1) + QLatin1String(" ms");
+}
+
+QString megabytes(qint64 kilobytes)
+{
+    return QString::number(kilobytes / 1024.0, 'f', 1) + QLatin1String(" MB");
+}
+
+QString sizeLabel(int size)
+{
+    return size % 1000 == 0 ? QString::number(size / 1000) + QLatin1Char('k') : QString::number(size);
+}
+
+double median(QList<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values.isEmpty() ? 0 : values.at(values.size() / 2);
+}
+
+struct Measurement
+{
+    QList<double> steps;
+    double total = 0;
+    qint64 wallMicroseconds = 0;
+    qint64 peakKilobytes = 0;
+    bool ok = false;
+};
+
+// The fastest of runs, each in a fresh process, so that the peak memory is this run's own.
+Measurement measure(const QString& file, const QString& mode, int runs, const QString& scratch)
+{
+    Measurement best;
+    for (int run = 0; run < runs; ++run) {
+        const ChildProcess::Result result = ChildProcess::run(
+            { QCoreApplication::applicationFilePath(), QStringLiteral("--worker"), file, mode, scratch });
+        const QList<QByteArray> fields = result.output.trimmed().split(' ');
+        if (result.exitCode != 0 || fields.size() < Pipeline::stepNames().size() + 1)
+            return best;
+        Measurement current;
+        current.ok = true;
+        for (int i = 0; i < Pipeline::stepNames().size(); ++i) {
+            current.steps.append(fields.at(i + 1).toDouble());
+            current.total += current.steps.last();
+        }
+        current.wallMicroseconds = result.wallMicroseconds;
+        current.peakKilobytes = result.peakKilobytes;
+        if (!best.ok || current.total < best.total)
+            best = current;
+    }
+    return best;
+}
+
+int worker(const QStringList& arguments)
+{
+    if (arguments.size() < 5)
+        return 2;
+    MachineRoot::setRoot(deviceTree());
+    const Pipeline::Times times = Pipeline::run(arguments.at(2),
+                                                arguments.at(3) == QLatin1String("device") ? Pipeline::Mode::Device
+                                                                                           : Pipeline::Mode::Standalone,
+                                                arguments.at(4));
+    out() << times.sessions;
+    for (qint64 step : times.steps)
+        out() << ' ' << step;
+    out() << Qt::endl;
+    return times.ok ? 0 : 1;
+}
+
+void benchDocuments(const QList<int>& sizes, int runs, QTemporaryDir& dir)
+{
+    QHash<int, QString> files;
+    for (int size : sizes) {
+        const QString path = dir.filePath(QStringLiteral("sessions-%1.tavlocfg").arg(size));
+        QFile file(path);
+        if (file.open(QIODevice::WriteOnly))
+            file.write(BenchDocument::generate(size));
+        files.insert(size, path);
+    }
+    const QString scratch = dir.filePath(QStringLiteral("saved.tavlocfg"));
+    const bool haveXmllint = ChildProcess::exists(QStringLiteral("xmllint"));
+
+    out() << "Documents with N sessions over " << BenchDocument::connectionTypes().join(QLatin1String(", "))
+          << "; device tree " << QDir::toNativeSeparators(deviceTree()) << "; fastest of " << runs
+          << " runs, each in a fresh process.\n\n";
+    QString header = QStringLiteral("| step | mode |");
+    QString rule = QStringLiteral("|---|---|");
+    for (int size : sizes) {
+        header += QLatin1Char(' ') + sizeLabel(size) + QLatin1String(" |");
+        rule += QLatin1String("---:|");
+    }
+    out() << header << " growth exponent |\n" << rule << "---:|\n";
+
+    QHash<QString, QList<Measurement>> results;
+    const QStringList modes { QStringLiteral("device"), QStringLiteral("standalone") };
+    for (const QString& mode : modes) {
+        for (int size : sizes)
+            results[mode].append(measure(files.value(size), mode, runs, scratch));
+    }
+    const QStringList steps = Pipeline::stepNames();
+    for (int step = 0; step <= steps.size(); ++step) {
+        for (const QString& mode : modes) {
+            const QString name = step < steps.size() ? QStringLiteral("`%1`").arg(steps.at(step))
+                                                     : QStringLiteral("whole pipeline (sum of steps)");
+            QString row = QStringLiteral("| %1 | %2 |").arg(name, mode);
+            QList<double> values;
+            for (const Measurement& measurement : results.value(mode)) {
+                const double value = !measurement.ok ? 0
+                    : step < steps.size()            ? measurement.steps.at(step)
+                                                     : measurement.total;
+                values.append(value);
+                row += measurement.ok ? QLatin1Char(' ') + milliseconds(value) + QLatin1String(" |")
+                                      : QStringLiteral(" failed |");
+            }
+            out() << row << ' ' << QString::number(growthExponent(sizes, values), 'f', 2) << " |\n";
+        }
+    }
+    for (const QString& mode : modes) {
+        QString row = QStringLiteral("| peak memory (process) | %1 |").arg(mode);
+        for (const Measurement& measurement : results.value(mode))
+            row += QLatin1Char(' ') + megabytes(measurement.peakKilobytes) + QLatin1String(" |");
+        out() << row << " |\n";
+    }
+    if (haveXmllint) {
+        QString wallRow = QStringLiteral("| `xmllint --noout` (wall) | |");
+        QString memoryRow = QStringLiteral("| `xmllint --noout` peak memory | |");
+        for (int size : sizes) {
+            ChildProcess::Result best;
+            for (int run = 0; run < runs; ++run) {
+                const ChildProcess::Result result
+                    = ChildProcess::run({ QStringLiteral("xmllint"), QStringLiteral("--noout"), files.value(size) });
+                if (run == 0 || result.wallMicroseconds < best.wallMicroseconds)
+                    best = result;
+            }
+            wallRow += QLatin1Char(' ') + milliseconds(best.wallMicroseconds) + QLatin1String(" |");
+            memoryRow += QLatin1Char(' ') + megabytes(best.peakKilobytes) + QLatin1String(" |");
+        }
+        out() << wallRow << " |\n" << memoryRow << " |\n";
+    }
+    out() << '\n';
+
+    // The figures the targets are stated in.
+    const int reference = 10000;
+    const QString path = dir.filePath(QStringLiteral("sessions-10k.tavlocfg"));
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(BenchDocument::generate(reference));
+    file.close();
+    const Measurement pipeline = measure(path, QStringLiteral("standalone"), runs, scratch);
+    out() << "10k sessions, standalone: pipeline " << milliseconds(pipeline.total) << " in process, "
+          << milliseconds(pipeline.wallMicroseconds) << " wall for the whole process";
+    if (haveXmllint) {
+        ChildProcess::Result xmllint;
+        for (int run = 0; run < runs; ++run) {
+            const ChildProcess::Result result
+                = ChildProcess::run({ QStringLiteral("xmllint"), QStringLiteral("--noout"), path });
+            if (run == 0 || result.wallMicroseconds < xmllint.wallMicroseconds)
+                xmllint = result;
+        }
+        out() << "; xmllint --noout " << milliseconds(xmllint.wallMicroseconds) << " wall; ratio "
+              << QString::number(double(pipeline.wallMicroseconds) / xmllint.wallMicroseconds, 'f', 1) << "x";
+
+        const Measurement largest = results.value(QStringLiteral("standalone")).constLast();
+        const ChildProcess::Result largestXmllint = ChildProcess::run(
+            { QStringLiteral("xmllint"), QStringLiteral("--noout"), files.value(sizes.constLast()) });
+        out() << "\n"
+              << sizeLabel(sizes.constLast()) << " sessions, standalone: peak memory "
+              << megabytes(largest.peakKilobytes) << " against xmllint --noout "
+              << megabytes(largestXmllint.peakKilobytes) << "; ratio "
+              << QString::number(double(largest.peakKilobytes) / largestXmllint.peakKilobytes, 'f', 2) << "x";
+    } else {
+        out() << "; xmllint is not installed, so there is no comparison";
+    }
+    out() << "\n\n";
+}
+
+void benchStartup(int runs)
+{
+    const QList<QPair<QByteArray, QByteArray>> offscreen { { "QT_QPA_PLATFORM", "offscreen" } };
+    QList<double> bare;
+    QList<double> wizard;
+    // Alternated, so that whatever else the machine does weighs on both alike.
+    for (int run = 0; run < runs; ++run) {
+        const ChildProcess::Result bareRun
+            = ChildProcess::run({ here("zelkon-bench-bare") }, FirstPaintProbe::marker(), offscreen);
+        const ChildProcess::Result wizardRun
+            = ChildProcess::run({ here("zelkon-bench-wizard"), QStringLiteral("--device-root"), deviceTree() },
+                                FirstPaintProbe::marker(), offscreen);
+        if (bareRun.markerMicroseconds < 0 || wizardRun.markerMicroseconds < 0) {
+            out() << "Start-up: a program did not report its first paint.\n";
+            return;
+        }
+        bare.append(bareRun.markerMicroseconds);
+        wizard.append(wizardRun.markerMicroseconds);
+    }
+    const double bareMedian = median(bare);
+    const double wizardMedian = median(wizard);
+    out() << "Start to first paint, offscreen, median of " << runs << " runs: bare Qt widgets window "
+          << milliseconds(bareMedian) << ", wizard " << milliseconds(wizardMedian) << "; ratio "
+          << QString::number(wizardMedian / bareMedian, 'f', 2) << "x\n";
+}
+
+void printUsage()
+{
+    out() << "Usage: zelkon-bench [--sizes 1000,2000,4000,8000,16000] [--runs 3] [--start-runs 15]\n"
+             "                    [--documents-only | --startup-only]\n"
+             "       zelkon-bench --generate SESSIONS FILE\n"
+             "Times loading, the connection model, saving the model, the summary and saving the file\n"
+             "for documents of growing size, on the example device tree and standalone, and the start\n"
+             "of the wizard to its first painted window against a bare Qt window, both offscreen.\n";
+}
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String("--worker"))
+        return worker(arguments);
+    if (arguments.value(1) == QLatin1String("--generate")) {
+        QFile file(arguments.value(3));
+        if (arguments.size() != 4 || !file.open(QIODevice::WriteOnly)) {
+            printUsage();
+            return 2;
+        }
+        file.write(BenchDocument::generate(arguments.value(2).toInt()));
+        return 0;
+    }
+
+    QList<int> sizes { 1000, 2000, 4000, 8000, 16000 };
+    int runs = 3;
+    int startRuns = 15;
+    bool documents = true;
+    bool startup = true;
+    for (int i = 1; i < arguments.size(); ++i) {
+        const QString& argument = arguments.at(i);
+        if (argument == QLatin1String("--sizes") && i + 1 < arguments.size()) {
+            sizes.clear();
+            for (const QString& size : arguments.at(++i).split(QLatin1Char(',')))
+                sizes.append(size.toInt());
+        } else if (argument == QLatin1String("--runs") && i + 1 < arguments.size()) {
+            runs = std::max(1, arguments.at(++i).toInt());
+        } else if (argument == QLatin1String("--start-runs") && i + 1 < arguments.size()) {
+            startRuns = std::max(1, arguments.at(++i).toInt());
+        } else if (argument == QLatin1String("--documents-only")) {
+            startup = false;
+        } else if (argument == QLatin1String("--startup-only")) {
+            documents = false;
+        } else {
+            printUsage();
+            return argument == QLatin1String("--help") ? 0 : 2;
+        }
+    }
+
+    QTemporaryDir dir;
+    if (documents)
+        benchDocuments(sizes, runs, dir);
+    if (startup)
+        benchStartup(startRuns);
+    return 0;
+}

@@ -1,0 +1,81 @@
+#include "elementsearch.h"
+
+namespace {
+const int MaxCounts = 4;
+} // namespace
+
+QDomElement ElementSearch::first(const QDomElement& top, const QString& name)
+{
+    // Pre-order below top, without recursion, so that no depth of document exhausts the stack.
+    QDomNode node = top.firstChild();
+    while (!node.isNull()) {
+        if (node.isElement() && node.nodeName() == name)
+            return node.toElement();
+        if (node.hasChildNodes()) {
+            node = node.firstChild();
+            continue;
+        }
+        while (node.nextSibling().isNull()) {
+            node = node.parentNode();
+            if (node == top)
+                return QDomElement();
+        }
+        node = node.nextSibling();
+    }
+    return QDomElement();
+}
+
+QDomNodeList ElementSearch::matches(const QDomElement& top, const QString& name)
+{
+    if (m_listTop != top || m_listName != name) {
+        m_listTop = top;
+        m_listName = name;
+        m_list = top.elementsByTagName(name);
+    }
+    return m_list;
+}
+
+int ElementSearch::count(const QDomElement& top, const QString& name)
+{
+    for (int i = 0; i < m_counts.size(); ++i) {
+        if (m_counts.at(i).top == top && m_counts.at(i).name == name) {
+            m_counts.move(i, 0);
+            return m_counts.first().count;
+        }
+    }
+    const int count = top.elementsByTagName(name).count();
+    m_counts.prepend({ top, name, count });
+    if (m_counts.size() > MaxCounts)
+        m_counts.removeLast();
+    return count;
+}
+
+void ElementSearch::elementAppended(const QDomElement& parent, const QString& name)
+{
+    for (Count& entry : m_counts) {
+        if (entry.name == name && isWithin(parent, entry.top))
+            ++entry.count;
+    }
+}
+
+void ElementSearch::forgetCounts()
+{
+    m_counts.clear();
+}
+
+void ElementSearch::clear()
+{
+    forgetCounts();
+    m_listTop = QDomElement();
+    m_listName.clear();
+    m_list = QDomNodeList();
+}
+
+bool ElementSearch::isWithin(const QDomNode& node, const QDomNode& top)
+{
+    for (QDomNode ancestor = node; !ancestor.isNull(); ancestor = ancestor.parentNode()) {
+        if (ancestor == top)
+            return true;
+    }
+    return false;
+}
