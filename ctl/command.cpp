@@ -73,7 +73,7 @@ bool Command::loadDocument(const QString& path, ConfigFile* config)
         return false;
     }
     // The parser rewrites the declaration's quotes; a file that is only touched must keep it.
-    static const QRegularExpression declaration(QStringLiteral("^\\s*<\\?xml\\s+(.*?)\\s*\\?>"));
+    static const QRegularExpression declaration(QStringLiteral("^\\s*<\\?xml\\s+(.*?)\\?>"));
     const QRegularExpressionMatch match = declaration.match(QString::fromUtf8(content.left(256)));
     QDomProcessingInstruction instruction = config->firstChild().toProcessingInstruction();
     if (match.hasMatch() && !instruction.isNull() && instruction.target() == QLatin1String("xml"))
