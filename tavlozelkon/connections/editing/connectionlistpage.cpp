@@ -90,13 +90,25 @@ void ConnectionListPage::changeEvent(QEvent* event)
 
 void ConnectionListPage::refreshConnectionTable()
 {
-    while (m_table->rowCount() > 0)
-        m_table->removeRow(0);
+    // Filled in one go and sorted before the buttons open: row by row, every insertion,
+    // and the sort, would move every open button of the rows below, which made a long
+    // list take minutes.
+    m_table->setRowCount(0);
+    QList<QPair<QString, const ConnectionSession*>> rows;
     const QStringList types = ConnectionModel::sSupportedConnectionTypes();
     for (const QString& type : types) {
         const QList<ConnectionSession*> sessions = m_model.connections(type)->sessions();
         for (const ConnectionSession* session : sessions)
-            appendRow(type, *session);
+            rows.append({ type, session });
+    }
+    m_table->setRowCount(rows.size());
+    for (int row = 0; row < rows.size(); ++row)
+        fillRow(row, rows.at(row).first, *rows.at(row).second);
+    if (!rows.isEmpty())
+        m_table->sortItems(NameColumn, Qt::AscendingOrder);
+    for (int row = 0; row < rows.size(); ++row) {
+        m_table->openPersistentEditor(m_table->item(row, DeleteColumn));
+        m_table->openPersistentEditor(m_table->item(row, EditColumn));
     }
 
     // Showing the setting is not changing it.
@@ -106,7 +118,6 @@ void ConnectionListPage::refreshConnectionTable()
 
     if (m_table->rowCount() > 0) {
         m_emptyLabel->hide();
-        m_table->sortItems(NameColumn, Qt::AscendingOrder);
         m_table->show();
         m_kioskCheck->show();
         // Deliberately on every refresh over existing connections: the frame then counts as
@@ -124,10 +135,8 @@ void ConnectionListPage::refreshConnectionTable()
     }
 }
 
-void ConnectionListPage::appendRow(const QString& type, const ConnectionSession& session)
+void ConnectionListPage::fillRow(int row, const QString& type, const ConnectionSession& session)
 {
-    const int row = m_table->rowCount();
-    m_table->insertRow(row);
     auto* name = new QTableWidgetItem(ConnectionModel::sGetConnectionTypeIcon(type, TypeIconSize),
                                       session.property("name").toString());
     name->setData(Qt::UserRole, session.id());
@@ -137,7 +146,6 @@ void ConnectionListPage::appendRow(const QString& type, const ConnectionSession&
         // The id is for the button alone, not to be edited.
         button->setFlags(button->flags() & ~Qt::ItemIsEditable);
         m_table->setItem(row, column, button);
-        m_table->openPersistentEditor(button);
     }
 }
 

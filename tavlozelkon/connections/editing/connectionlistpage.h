@@ -53,7 +53,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void appendRow(const QString& type, const ConnectionSession& session);
+    void fillRow(int row, const QString& type, const ConnectionSession& session);
 
     ConnectionModel& m_model;
     QLabel* m_emptyLabel;
