@@ -79,21 +79,21 @@ void NetworkPrinterListPage::refreshPrinterTable()
     m_table->setSortingEnabled(false);
     m_table->setRowCount(0);
     const QMap<QString, NetworkPrinter>& printers = m_model.printers();
+    m_table->setRowCount(printers.size());
+    int row = 0;
     for (auto it = printers.cbegin(); it != printers.cend(); ++it)
-        appendRow(it.key());
+        fillRow(row++, it.key());
 
     const bool empty = m_table->rowCount() == 0;
     m_emptyLabel->setVisible(empty);
     if (!empty)
         m_table->sortItems(SummaryColumn, Qt::AscendingOrder);
+    ButtonDelegate::openButtons(m_table, { DeleteColumn, EditColumn });
     m_table->setVisible(!empty);
 }
 
-void NetworkPrinterListPage::appendRow(const QString& id)
+void NetworkPrinterListPage::fillRow(int row, const QString& id)
 {
-    const int row = m_table->rowCount();
-    m_table->insertRow(row);
-
     auto* summary = new QTableWidgetItem(m_model.item(id));
     summary->setData(Qt::UserRole, id);
     summary->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
@@ -106,7 +106,6 @@ void NetworkPrinterListPage::appendRow(const QString& id)
         auto* button = new QTableWidgetItem(id);
         button->setFlags(Qt::ItemIsEnabled);
         m_table->setItem(row, column, button);
-        m_table->openPersistentEditor(button);
     }
 }
 

@@ -43,7 +43,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void appendRow(const QString& id);
+    void fillRow(int row, const QString& id);
 
     PrinterModel& m_model;
     QLabel* m_emptyLabel;

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QIcon>
+#include <QTableWidget>
 #include <QToolButton>
 
 ButtonDelegate::ButtonDelegate(ButtonRole_t role, QObject* parent)
@@ -36,6 +37,14 @@ QWidget* ButtonDelegate::createEditor(QWidget* parent, const QStyleOptionViewIte
     }
     button->setDefaultAction(action);
     return button;
+}
+
+void ButtonDelegate::openButtons(QTableWidget* table, std::initializer_list<int> columns)
+{
+    for (int row = 0; row < table->rowCount(); ++row) {
+        for (int column : columns)
+            table->openPersistentEditor(table->item(row, column));
+    }
 }
 
 void ButtonDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const

@@ -5,6 +5,7 @@
 #include <QItemDelegate>
 
 class QAction;
+class QTableWidget;
 
 /*
  * Puts a small tool button into a table cell (as a persistent editor) that edits or
@@ -24,6 +25,11 @@ public:
     ~ButtonDelegate() override;
 
     ButtonRole_t role() const { return m_role; }
+
+    // Opens the buttons of every row in the columns. Call it once the table is filled and
+    // sorted: each row inserted or moved later moves every open button below it, which
+    // makes a long list take minutes.
+    static void openButtons(QTableWidget* table, std::initializer_list<int> columns);
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     // The cell holds the id for the button; only the button is shown, never the id.

@@ -90,9 +90,6 @@ void ConnectionListPage::changeEvent(QEvent* event)
 
 void ConnectionListPage::refreshConnectionTable()
 {
-    // Filled in one go and sorted before the buttons open: row by row, every insertion,
-    // and the sort, would move every open button of the rows below, which made a long
-    // list take minutes.
     m_table->setRowCount(0);
     QList<QPair<QString, const ConnectionSession*>> rows;
     const QStringList types = ConnectionModel::sSupportedConnectionTypes();
@@ -106,10 +103,7 @@ void ConnectionListPage::refreshConnectionTable()
         fillRow(row, rows.at(row).first, *rows.at(row).second);
     if (!rows.isEmpty())
         m_table->sortItems(NameColumn, Qt::AscendingOrder);
-    for (int row = 0; row < rows.size(); ++row) {
-        m_table->openPersistentEditor(m_table->item(row, DeleteColumn));
-        m_table->openPersistentEditor(m_table->item(row, EditColumn));
-    }
+    ButtonDelegate::openButtons(m_table, { DeleteColumn, EditColumn });
 
     // Showing the setting is not changing it.
     disconnect(m_kioskCheck, &QCheckBox::stateChanged, this, &ConnectionListPage::changeKioskMode);
