@@ -1,20 +1,10 @@
 #include "config/configschema.h"
+#include "configdocument.h"
 #include "filecontents.h"
 #include "schemacheck.h"
 
 #include <QDir>
 #include <QtTest>
-
-namespace {
-
-QByteArray document(const QByteArray& sections)
-{
-    return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<zelkon version=\"1.0\" creator=\"zelkon\" "
-           "creator_version=\"2.0\">\n"
-        + sections + "</zelkon>\n";
-}
-
-} // namespace
 
 class TestConfigSchema : public QObject
 {
@@ -82,7 +72,7 @@ void TestConfigSchema::acceptedDocuments_data()
 void TestConfigSchema::acceptedDocuments()
 {
     QFETCH(QByteArray, sections);
-    const QStringList problems = schemaProblems(document(sections));
+    const QStringList problems = schemaProblems(configDocument(sections));
     QVERIFY2(problems.isEmpty(), qPrintable(problems.join('\n')));
 }
 
@@ -91,23 +81,26 @@ void TestConfigSchema::problemsNameTheirLine_data()
     QTest::addColumn<QByteArray>("xml");
     QTest::addColumn<qint64>("line");
     QTest::addColumn<QString>("words");
-    QTest::newRow("misspelt key") << document(" <usb>\n  <enabel>true</enabel>\n </usb>\n") << qint64(4) << "enabel";
-    QTest::newRow("misspelt section") << document(" <dispaly/>\n") << qint64(3) << "dispaly";
-    QTest::newRow("wrong type") << document(" <sound>\n  <enable>yes</enable>\n </sound>\n") << qint64(4)
+    QTest::newRow("misspelt key") << configDocument(" <usb>\n  <enabel>true</enabel>\n </usb>\n") << qint64(4)
+                                  << "enabel";
+    QTest::newRow("misspelt section") << configDocument(" <dispaly/>\n") << qint64(3) << "dispaly";
+    QTest::newRow("wrong type") << configDocument(" <sound>\n  <enable>yes</enable>\n </sound>\n") << qint64(4)
                                 << "enable does not match its type definition: String content is not listed in the "
                                    "enumeration facet. The value is \"yes\".";
-    QTest::newRow("not a number") << document(" <power>\n\n  <screen_saver_delay>ten</screen_saver_delay>\n</power>\n")
+    QTest::newRow("not a number") << configDocument(
+        " <power>\n\n  <screen_saver_delay>ten</screen_saver_delay>\n</power>\n")
                                   << qint64(5) << "ten";
-    QTest::newRow("out of range") << document(" <power>\n  <screen_saver_delay>150</screen_saver_delay>\n</power>\n")
+    QTest::newRow("out of range") << configDocument(
+        " <power>\n  <screen_saver_delay>150</screen_saver_delay>\n</power>\n")
                                   << qint64(4) << "150";
-    QTest::newRow("port out of range") << document(
+    QTest::newRow("port out of range") << configDocument(
         " <network_printer>\n  <printer>\n   <name>A</name>\n   <port>70000</port>\n  </printer>\n"
         " </network_printer>\n") << qint64(6)
                                        << "70000";
-    QTest::newRow("not a choice") << document(" <wireless>\n  <security>WPA3</security>\n </wireless>\n") << qint64(4)
-                                  << "WPA3";
+    QTest::newRow("not a choice") << configDocument(" <wireless>\n  <security>WPA3</security>\n </wireless>\n")
+                                  << qint64(4) << "WPA3";
     QTest::newRow("wrong root") << QByteArray("<?xml version=\"1.0\"?>\n\n<config/>\n") << qint64(3) << "\"config\"";
-    QTest::newRow("not well-formed") << document(" <usb>\n  <enable>true</usb>\n") << qint64(4) << "well-formed";
+    QTest::newRow("not well-formed") << configDocument(" <usb>\n  <enable>true</usb>\n") << qint64(4) << "well-formed";
 }
 
 void TestConfigSchema::problemsNameTheirLine()
@@ -131,7 +124,7 @@ void TestConfigSchema::brokenSchemaFailsEveryCheck()
     const ConfigSchema broken("<xs:schema xmlns:xs=\"http://www.w3.org/2001/XMLSchema\"><xs:element/>");
     QVERIFY(!broken.isValid());
     QVERIFY(!broken.schemaError().isEmpty());
-    QCOMPARE(broken.check(document(QByteArray())).size(), 1);
+    QCOMPARE(broken.check(configDocument(QByteArray())).size(), 1);
 }
 
 QTEST_GUILESS_MAIN(TestConfigSchema)

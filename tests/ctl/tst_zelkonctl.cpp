@@ -1,4 +1,5 @@
 #include "config/configfile.h"
+#include "configdocument.h"
 #include "faketool.h"
 #include "filecontents.h"
 
@@ -34,13 +35,6 @@ Outcome zelkonctl(const QStringList& arguments, const QString& workingDirectory 
         return {};
     return { process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
              QString::fromUtf8(process.readAllStandardError()) };
-}
-
-QByteArray document(const QByteArray& sections)
-{
-    return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<zelkon version=\"1.0\" creator=\"zelkon\" "
-           "creator_version=\"2.0\">\n"
-        + sections + "</zelkon>\n";
 }
 
 } // namespace
@@ -144,7 +138,7 @@ void TestZelkonCtl::check()
     QFETCH(QStringList, files);
     QFETCH(int, exitCode);
     QFETCH(QString, errors);
-    write("bad.tavlocfg", document(" <power>\n  <screen_saver_delay>150</screen_saver_delay>\n </power>\n"));
+    write("bad.tavlocfg", configDocument(" <power>\n  <screen_saver_delay>150</screen_saver_delay>\n </power>\n"));
     write("text.tavlocfg", "screen_saver_delay=5\n");
     const Outcome outcome = zelkonctl(QStringList { "check" } + files, m_dir->path());
     QCOMPARE(outcome.exitCode, exitCode);
@@ -166,7 +160,7 @@ void TestZelkonCtl::checkManyFiles()
     for (int i = 0; i < 300; ++i) {
         const bool bad = i == 7 || i == 250;
         files.append(write(QStringLiteral("f%1.tavlocfg").arg(i),
-                           bad ? document(" <usb><enable>maybe</enable></usb>\n") : good));
+                           bad ? configDocument(" <usb><enable>maybe</enable></usb>\n") : good));
     }
     const Outcome outcome = zelkonctl(QStringList { "check" } + files);
     QCOMPARE(outcome.exitCode, 1);
@@ -259,17 +253,18 @@ void TestZelkonCtl::setRefusesAnInvalidResult()
 
 void TestZelkonCtl::sortKeepsEverythingElse()
 {
-    const QString path = write("s.tavlocfg",
-                               document(" <usb>\n  <read_only>true</read_only>\n  <enable>true</enable>\n </usb>\n"
-                                        " <desktop>\n  <kiosk_mode>true</kiosk_mode>\n </desktop>\n"
-                                        " <rdp>\n  <session id=\"{b}\">\n   <name>B</name>\n  </session>\n"
-                                        "  <session id=\"{a}\">\n   <name>A</name>\n  </session>\n </rdp>\n"));
+    const QString path
+        = write("s.tavlocfg",
+                configDocument(" <usb>\n  <read_only>true</read_only>\n  <enable>true</enable>\n </usb>\n"
+                               " <desktop>\n  <kiosk_mode>true</kiosk_mode>\n </desktop>\n"
+                               " <rdp>\n  <session id=\"{b}\">\n   <name>B</name>\n  </session>\n"
+                               "  <session id=\"{a}\">\n   <name>A</name>\n  </session>\n </rdp>\n"));
     QCOMPARE(zelkonctl({ "sort", path }).exitCode, 0);
     QCOMPARE(fileContents(path),
-             document(" <desktop>\n  <kiosk_mode>true</kiosk_mode>\n </desktop>\n"
-                      " <rdp>\n  <session id=\"{b}\">\n   <name>B</name>\n  </session>\n"
-                      "  <session id=\"{a}\">\n   <name>A</name>\n  </session>\n </rdp>\n"
-                      " <usb>\n  <read_only>true</read_only>\n  <enable>true</enable>\n </usb>\n"));
+             configDocument(" <desktop>\n  <kiosk_mode>true</kiosk_mode>\n </desktop>\n"
+                            " <rdp>\n  <session id=\"{b}\">\n   <name>B</name>\n  </session>\n"
+                            "  <session id=\"{a}\">\n   <name>A</name>\n  </session>\n </rdp>\n"
+                            " <usb>\n  <read_only>true</read_only>\n  <enable>true</enable>\n </usb>\n"));
 }
 
 void TestZelkonCtl::merge_data()
@@ -321,12 +316,13 @@ void TestZelkonCtl::merge()
     QFETCH(QByteArray, device);
     QFETCH(QByteArray, merged);
     const QString out = m_dir->filePath("merged.tavlocfg");
-    const Outcome outcome = zelkonctl({ "merge", write("base", document(base)), write("site", document(site)),
-                                        write("device", document(device)), "-o", out });
+    const Outcome outcome
+        = zelkonctl({ "merge", write("base", configDocument(base)), write("site", configDocument(site)),
+                      write("device", configDocument(device)), "-o", out });
     QCOMPARE(outcome.err, QString());
     QCOMPARE(outcome.exitCode, 0);
     QDomDocument expected;
-    QVERIFY(expected.setContent(document(merged)));
+    QVERIFY(expected.setContent(configDocument(merged)));
     QDomDocument actual;
     QVERIFY(actual.setContent(fileContents(out)));
     QCOMPARE(actual.toString(-1), expected.toString(-1));
@@ -348,7 +344,7 @@ void TestZelkonCtl::apply()
     QVERIFY2(failed.err.contains("exit code 3"), qPrintable(failed.err));
 
     // An invalid file never reaches the device.
-    const QString bad = write("bad.tavlocfg", document("<usb><enable>maybe</enable></usb>"));
+    const QString bad = write("bad.tavlocfg", configDocument("<usb><enable>maybe</enable></usb>"));
     QCOMPARE(zelkonctl({ "apply", bad }, m_dir->path()).exitCode, 1);
     QCOMPARE(tool.runs().size(), 2);
 }
