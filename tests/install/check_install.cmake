@@ -15,12 +15,12 @@ foreach(expected
         include/tavlozelkon/pages/zelkonsummarypage.h
         include/tavlozelkon/tavlozelkon_lib_export.h
         include/tavlohost/platform.h
-        lib/cmake/Zelkon/ZelkonConfig.cmake)
+        ${LIBDIR}/cmake/Zelkon/ZelkonConfig.cmake)
     if(NOT EXISTS ${prefix}/${expected})
         message(FATAL_ERROR "Not installed: ${expected}")
     endif()
 endforeach()
-file(GLOB libraries ${prefix}/lib/libtavlozelkon_lib.so*)
+file(GLOB libraries ${prefix}/${LIBDIR}/libtavlozelkon_lib.so*)
 if(NOT libraries)
     message(FATAL_ERROR "libtavlozelkon_lib.so was not installed")
 endif()
