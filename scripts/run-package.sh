@@ -29,8 +29,9 @@ lintian --fail-on error --tag-display-limit 0 build-pkg/*.deb
 DEBIAN_FRONTEND=noninteractive $SUDO apt-get install -y ./build-pkg/*.deb
 
 examples=/usr/share/zelkon/examples
-shots=$(mktemp -d)
-trap 'rm -rf "$shots"' EXIT
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+shots=$scratch/shots
 /usr/bin/zelkon --device-root "$examples/device" --screenshots "$shots" "$examples/lunvex-kiosk.tavlocfg"
 pages=$(find "$shots" -name '*.png' | wc -l)
 if [ "$pages" -lt 6 ]; then
@@ -39,6 +40,14 @@ if [ "$pages" -lt 6 ]; then
 fi
 /usr/bin/zelkonctl --version
 /usr/bin/zelkonctl check "$examples"/*.tavlocfg
+# The development package: a host application builds against the installed libraries.
+cmake -S tests/install/consumer -B "$scratch/consumer" >/dev/null
+cmake --build "$scratch/consumer"
+document=$(QT_QPA_PLATFORM=offscreen "$scratch/consumer/consumer")
+case $document in
+*'creator="zelkon"'*) ;;
+*) echo "package: the consumer printed an unexpected document" >&2; exit 1 ;;
+esac
 desktop-file-validate /usr/share/applications/com.tavlo.Zelkon.desktop
 appstreamcli validate --no-net /usr/share/metainfo/com.tavlo.Zelkon.metainfo.xml
 echo "package: finished in $(($(date +%s) - start)) s"
