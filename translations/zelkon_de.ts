@@ -297,7 +297,7 @@
     <name>ConnectionModel</name>
     <message>
         <source>Classics</source>
-        <translation>Klassiker</translation>
+        <translation>Klassische Verbindungen</translation>
     </message>
     <message>
         <source>VDI connection brokers</source>
