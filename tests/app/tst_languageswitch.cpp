@@ -196,6 +196,7 @@ private slots:
 
     void commandLineChoosesTheLanguage_data();
     void commandLineChoosesTheLanguage();
+    void screenshotsInTheChosenLanguage();
     void matchesLanguageCodes_data();
     void matchesLanguageCodes();
     void followsTheSystemLanguages_data();
@@ -472,6 +473,26 @@ void TestLanguageSwitch::commandLineChoosesTheLanguage()
         QCOMPARE(err, output);
         QVERIFY(out.isEmpty());
     }
+}
+
+// Rendering runs unattended but speaks the language asked for, pages and report alike.
+void TestLanguageSwitch::screenshotsInTheChosenLanguage()
+{
+    QTemporaryDir dir;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("LANGUAGE"));
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(ZELKON_BINARY),
+                  { QStringLiteral("--language"), QStringLiteral("de"), QStringLiteral("--device-root"),
+                    Examples + QStringLiteral("/device"), QStringLiteral("--screenshots"), dir.path(),
+                    Examples + QStringLiteral("/lunvex-kiosk.tavlocfg") });
+    QVERIFY2(process.waitForFinished(60000), qPrintable(process.errorString()));
+    QCOMPARE(process.exitCode(), 0);
+    const QString out = QString::fromUtf8(process.readAllStandardOutput());
+    QVERIFY2(out.startsWith(QLatin1String("6 Seiten nach ")), qPrintable(out));
+    QVERIFY(QFileInfo(dir.filePath(QStringLiteral("06-summary.png"))).size() > 0);
 }
 
 void TestLanguageSwitch::matchesLanguageCodes_data()
