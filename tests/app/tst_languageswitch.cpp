@@ -5,6 +5,7 @@
 #include "languagemenu.h"
 #include "mainwindow.h"
 #include "markingtranslator.h"
+#include "showntexts.h"
 
 #include "connections/editing/connectioneditor.h"
 #include "connections/editing/connectionsframe.h"
@@ -19,8 +20,6 @@
 #include <QActionGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGroupBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -29,100 +28,17 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTableWidget>
 #include <QTextBrowser>
-#include <QTreeWidget>
 #include <QtTest>
 #include <memory>
 
 namespace {
 const QString Examples = QStringLiteral(ZELKON_EXAMPLES_DIR);
 
-// Texts that are data, not words of the user interface: they are shown as the document
-// or the machine has them in every language.
+// Each language is named in itself in the Language menu, whatever the language shown.
 bool isData(const QWidget* widget, const QString& text)
 {
-    static const QRegularExpression numbersOnly(QStringLiteral("^[0-9x .,:%-]*( Bpp)?$"));
-    static const QStringList dataTexts { QStringLiteral("Auto"), QStringLiteral("Lunvex"), QStringLiteral("WES"),
-                                         QStringLiteral("WES7"), QStringLiteral("CE") };
-    if (numbersOnly.match(text).hasMatch() || dataTexts.contains(text) || QDir::isAbsolutePath(text))
-        return true;
-    // Each language is named in itself, whatever the language shown.
-    if (qobject_cast<const LanguageMenu*>(widget))
-        return true;
-    // Zone names come from the device's table; the summary and the help show a document.
-    const QString name = widget->objectName();
-    return name.startsWith(QLatin1String("TimeZone")) || qobject_cast<const QTextBrowser*>(widget)
-        || qobject_cast<const QLineEdit*>(widget);
-}
-
-// Every text a user can read in the widgets below root, keyed by widget and place, so
-// that the same text can be found again after a language switch.
-struct ShownText
-{
-    const QWidget* widget;
-    QString text;
-};
-
-QMap<QString, ShownText> shownTexts(QWidget* root)
-{
-    QMap<QString, ShownText> texts;
-    auto add = [&texts](const QWidget* widget, const QString& place, const QString& text) {
-        if (text.trimmed().isEmpty())
-            return;
-        texts.insert(QString::asprintf("%p/", static_cast<const void*>(widget)) + place, { widget, text });
-    };
-    QList<QWidget*> widgets = root->findChildren<QWidget*>();
-    widgets.prepend(root);
-    for (QWidget* widget : qAsConst(widgets)) {
-        add(widget, QStringLiteral("toolTip"), widget->toolTip());
-        if (widget->isWindow())
-            add(widget, QStringLiteral("windowTitle"), widget->windowTitle());
-        if (auto* label = qobject_cast<QLabel*>(widget))
-            add(widget, QStringLiteral("text"), label->text());
-        else if (auto* button = qobject_cast<QAbstractButton*>(widget))
-            add(widget, QStringLiteral("text"), button->text());
-        else if (auto* group = qobject_cast<QGroupBox*>(widget))
-            add(widget, QStringLiteral("title"), group->title());
-        else if (auto* combo = qobject_cast<QComboBox*>(widget)) {
-            for (int i = 0; i < combo->count(); ++i)
-                add(widget, QStringLiteral("item%1").arg(i), combo->itemText(i));
-        } else if (auto* edit = qobject_cast<QLineEdit*>(widget))
-            add(widget, QStringLiteral("placeholder"), edit->placeholderText());
-        else if (auto* browser = qobject_cast<QTextEdit*>(widget))
-            add(widget, QStringLiteral("placeholder"), browser->placeholderText());
-        else if (auto* list = qobject_cast<QListWidget*>(widget)) {
-            for (int i = 0; i < list->count(); ++i)
-                add(widget, QStringLiteral("item%1").arg(i), list->item(i)->text());
-        } else if (auto* table = qobject_cast<QTableWidget*>(widget)) {
-            for (int i = 0; i < table->columnCount(); ++i) {
-                if (QTableWidgetItem* header = table->horizontalHeaderItem(i))
-                    add(widget, QStringLiteral("header%1").arg(i), header->text());
-            }
-        } else if (auto* menu = qobject_cast<QMenu*>(widget))
-            add(widget, QStringLiteral("title"), menu->title());
-        const QList<QAction*> actions = widget->actions();
-        for (int i = 0; i < actions.size(); ++i) {
-            add(widget, QStringLiteral("action%1").arg(i), actions.at(i)->text());
-            add(widget, QStringLiteral("statusTip%1").arg(i), actions.at(i)->statusTip());
-        }
-    }
-    return texts;
-}
-
-QString describe(const QWidget* widget)
-{
-    QStringList path;
-    for (const QObject* each = widget; each; each = each->parent())
-        path.prepend(each->objectName().isEmpty() ? QString::fromLatin1(each->metaObject()->className())
-                                                  : each->objectName());
-    return path.join(QLatin1Char('/'));
-}
-
-void deliverLanguageChange()
-{
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
-    QCoreApplication::processEvents();
+    return ShownTexts::isData(widget, text) || qobject_cast<const LanguageMenu*>(widget);
 }
 
 struct Selection
@@ -216,7 +132,7 @@ void TestLanguageSwitch::init()
     Platform::instance()->setTarget(Platform::Lunvex);
     Platform::instance()->setStandalone(false);
     LanguageManager::instance()->setLanguage(LanguageManager::SourceLanguage);
-    deliverLanguageChange();
+    ShownTexts::deliverLanguageChange();
 }
 
 void TestLanguageSwitch::cleanup()
@@ -226,7 +142,7 @@ void TestLanguageSwitch::cleanup()
         m_marking.reset();
     }
     LanguageManager::instance()->setLanguage(LanguageManager::SourceLanguage);
-    deliverLanguageChange();
+    ShownTexts::deliverLanguageChange();
     m_device.reset();
     m_settingsTool.reset();
 }
@@ -250,21 +166,15 @@ void TestLanguageSwitch::everyTextFollowsTheLanguage()
     const auto window = openWindow(QStringLiteral("lunvex-kiosk.tavlocfg"));
     QVERIFY(window);
     window->showPage(MainWindow::PeripheralPage);
-    const QMap<QString, ShownText> english = shownTexts(window.get());
+    const ShownTexts::Texts english = ShownTexts::collect(window.get());
     const QMap<const QComboBox*, Selection> selected = selections(window.get());
     QVERIFY(english.size() > 200);
 
     m_marking = std::make_unique<MarkingTranslator>();
     QCoreApplication::installTranslator(m_marking.get());
-    deliverLanguageChange();
+    ShownTexts::deliverLanguageChange();
 
-    const QMap<QString, ShownText> marked = shownTexts(window.get());
-    QStringList untranslated;
-    for (auto it = english.cbegin(); it != english.cend(); ++it) {
-        const QString now = marked.value(it.key()).text;
-        if (!MarkingTranslator::isMarked(now) && !isData(it->widget, now))
-            untranslated.append(describe(it->widget) + QLatin1String(": ") + now);
-    }
+    const QStringList untranslated = ShownTexts::unmarked(english, window.get(), isData);
     QVERIFY2(untranslated.isEmpty(), qPrintable(untranslated.join(QLatin1Char('\n'))));
     QVERIFY(MarkingTranslator::isMarked(window->helpView()->toPlainText()));
     QVERIFY(selections(window.get()) == selected);
@@ -276,10 +186,11 @@ void TestLanguageSwitch::everyTextFollowsTheLanguage()
 
     // And back: nothing of the other language is left.
     QCoreApplication::removeTranslator(m_marking.get());
-    deliverLanguageChange();
-    const QMap<QString, ShownText> again = shownTexts(window.get());
+    ShownTexts::deliverLanguageChange();
+    const ShownTexts::Texts again = ShownTexts::collect(window.get());
     for (auto it = again.cbegin(); it != again.cend(); ++it)
-        QVERIFY2(!MarkingTranslator::isMarked(it->text), qPrintable(describe(it->widget) + ": " + it->text));
+        QVERIFY2(!MarkingTranslator::isMarked(it->text),
+                 qPrintable(ShownTexts::describe(it->widget) + ": " + it->text));
     QVERIFY(selections(window.get()) == selected);
     // The summary shown while the language changed follows at once.
     QVERIFY(window->summaryPage()->summaryView()->toPlainText().contains(QLatin1String("Time Zone")));
@@ -292,7 +203,7 @@ void TestLanguageSwitch::samplesOfEveryPageInGerman()
     QVERIFY(window);
     window->showPage(MainWindow::TitlePage);
     QVERIFY(LanguageManager::instance()->setLanguage(QStringLiteral("de")));
-    deliverLanguageChange();
+    ShownTexts::deliverLanguageChange();
 
     auto text = [&window](const char* name) -> QString {
         QObject* found = window->findChild<QObject*>(QLatin1String(name));
@@ -332,7 +243,7 @@ void TestLanguageSwitch::samplesOfEveryPageInGerman()
     QCOMPARE(window->summaryPage()->saveButton()->text(), QStringLiteral("Konfiguration speichern"));
 
     QVERIFY(LanguageManager::instance()->setLanguage(LanguageManager::SourceLanguage));
-    deliverLanguageChange();
+    ShownTexts::deliverLanguageChange();
     QCOMPARE(window->nextButton()->text(), QStringLiteral("&Next >"));
     QCOMPARE(window->summaryPage()->saveButton()->text(), QStringLiteral("Save Configuration"));
 }
@@ -372,7 +283,7 @@ void TestLanguageSwitch::savedDocumentIsTheSameInEveryLanguage()
     } else {
         QVERIFY(LanguageManager::instance()->setLanguage(QStringLiteral("de")));
     }
-    deliverLanguageChange();
+    ShownTexts::deliverLanguageChange();
     const QString translated = dir.filePath(QStringLiteral("translated.tavlocfg"));
     QVERIFY(window->saveTo(translated));
 
@@ -380,7 +291,7 @@ void TestLanguageSwitch::savedDocumentIsTheSameInEveryLanguage()
         QCoreApplication::removeTranslator(m_marking.get());
     else
         QVERIFY(LanguageManager::instance()->setLanguage(LanguageManager::SourceLanguage));
-    deliverLanguageChange();
+    ShownTexts::deliverLanguageChange();
     const QString english = dir.filePath(QStringLiteral("english.tavlocfg"));
     QVERIFY(window->saveTo(english));
 
@@ -413,7 +324,7 @@ void TestLanguageSwitch::languageMenuFollowsTheLanguage()
 
     // Chosen from the menu: the manager switches and the window speaks German.
     actions.at(1)->trigger();
-    deliverLanguageChange();
+    ShownTexts::deliverLanguageChange();
     QCOMPARE(LanguageManager::instance()->currentLanguage(), QStringLiteral("de"));
     QCOMPARE(menu->actionGroup()->checkedAction(), actions.at(1));
     QCOMPARE(menu->title(), QStringLiteral("&Sprache"));
@@ -421,7 +332,7 @@ void TestLanguageSwitch::languageMenuFollowsTheLanguage()
 
     // Set elsewhere (the command line): the check follows.
     QVERIFY(LanguageManager::instance()->setLanguage(QStringLiteral("en")));
-    deliverLanguageChange();
+    ShownTexts::deliverLanguageChange();
     QCOMPARE(menu->actionGroup()->checkedAction(), actions.at(0));
     QCOMPARE(window.backButton()->text(), QStringLiteral("< &Back"));
     QVERIFY(!LanguageManager::instance()->setLanguage(QStringLiteral("fr")));
