@@ -24,15 +24,15 @@
     </message>
     <message>
         <source>&lt;b&gt;Automatic Updates&lt;/b&gt; &lt;br&gt; This enables and configures automatic updates using System Update for CE Thin Clients.</source>
-        <translation>&lt;b&gt;Auto­matische Updates&lt;/b&gt; &lt;br&gt; Hiermit werden automatische Updates über System Update für CE-Thin-Clients aktiviert und eingerichtet.</translation>
+        <translation>&lt;b&gt;Automatische Updates&lt;/b&gt; &lt;br&gt; Hiermit werden automatische Updates über System Update für CE-Thin-Clients aktiviert und eingerichtet.</translation>
     </message>
     <message>
         <source>&lt;b&gt;Automatic Updates&lt;/b&gt; &lt;br&gt; This enables and configures automatic updates using Tavlo Automatic Update for Lunvex.</source>
-        <translation>&lt;b&gt;Auto­matische Updates&lt;/b&gt; &lt;br&gt; Hiermit werden automatische Updates über Tavlo Automatic Update für Lunvex aktiviert und eingerichtet.</translation>
+        <translation>&lt;b&gt;Automatische Updates&lt;/b&gt; &lt;br&gt; Hiermit werden automatische Updates über Tavlo Automatic Update für Lunvex aktiviert und eingerichtet.</translation>
     </message>
     <message>
         <source>&lt;b&gt;Automatic Updates&lt;/b&gt; &lt;br&gt; This enables and configures automatic updates using the following systems:&lt;p&gt;1. Tavlo Automatic Update for Lunvex Thin Clients.&lt;/p&gt;&lt;p&gt;2. System Update for CE Thin Clients.&lt;/p&gt;</source>
-        <translation>&lt;b&gt;Auto­matische Updates&lt;/b&gt; &lt;br&gt; Hiermit werden automatische Updates über folgende Systeme aktiviert und eingerichtet:&lt;p&gt;1. Tavlo Automatic Update für Lunvex-Thin-Clients.&lt;/p&gt;&lt;p&gt;2. System Update für CE-Thin-Clients.&lt;/p&gt;</translation>
+        <translation>&lt;b&gt;Automatische Updates&lt;/b&gt; &lt;br&gt; Hiermit werden automatische Updates über folgende Systeme aktiviert und eingerichtet:&lt;p&gt;1. Tavlo Automatic Update für Lunvex-Thin-Clients.&lt;/p&gt;&lt;p&gt;2. System Update für CE-Thin-Clients.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>File Server URL:</source>
@@ -1352,7 +1352,7 @@ Möchten Sie sie speichern?</translation>
     </message>
     <message>
         <source>&lt;b&gt;Sound&lt;/b&gt; &lt;br&gt; This enables or disables sound and hides or shows the volume controls.</source>
-        <translation>&lt;b&gt;Ton&lt;/b&gt; &lt;br&gt; Hiermit wird der Ton aktiviert oder deaktiviert und die Lautstärke­regelung aus- oder einge­blendet.</translation>
+        <translation>&lt;b&gt;Ton&lt;/b&gt; &lt;br&gt; Hiermit wird der Ton aktiviert oder deaktiviert und die Lautstärke­regelung aus- oder eingeblendet.</translation>
     </message>
     <message>
         <source>Enable</source>
@@ -1511,19 +1511,19 @@ Möchten Sie sie speichern?</translation>
     </message>
     <message>
         <source>&lt;b&gt;Connections&lt;/b&gt;&lt;br&gt;&lt;p&gt;This section enables you to create host connections for a variety of protocols.&lt;/p&gt;</source>
-        <translation>&lt;b&gt;Verbin­dungen&lt;/b&gt;&lt;br&gt;&lt;p&gt;In diesem Abschnitt legen Sie Verbin­dungen zu Host­systemen über verschiedene Protokolle an.&lt;/p&gt;</translation>
+        <translation>&lt;b&gt;Verbindungen&lt;/b&gt;&lt;br&gt;&lt;p&gt;In diesem Abschnitt legen Sie Verbindungen zu Host­systemen über verschiedene Protokolle an.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;p&gt;The connections created can be launched using the following methods:&lt;/p&gt;&lt;p&gt;On Lunvex the connections will be available in the Control Center.&lt;/p&gt;&lt;p&gt;On WES and CE the connections will be available from the respective connection management tools.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Die angelegten Verbin­dungen lassen sich auf folgende Weise starten:&lt;/p&gt;&lt;p&gt;Unter Lunvex stehen die Verbin­dungen im Control Center bereit.&lt;/p&gt;&lt;p&gt;Unter WES und CE stehen die Verbin­dungen in den jeweiligen Verbindungs­verwal­tungen bereit.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Die angelegten Verbindungen lassen sich auf folgende Weise starten:&lt;/p&gt;&lt;p&gt;Unter Lunvex stehen die Verbindungen im Control Center bereit.&lt;/p&gt;&lt;p&gt;Unter WES und CE stehen die Verbindungen in den jeweiligen Verbindungs­verwal­tungen bereit.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;p&gt;The connections will be available in the Lunvex&apos;s Control Center.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Die Verbin­dungen stehen im Control Center von Lunvex bereit.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Die Verbindungen stehen im Control Center von Lunvex bereit.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;p&gt;The connections will be available from the Connection Administrator.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Die Verbin­dungen stehen im Connection Adminis­trator bereit.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Die Verbindungen stehen im Connection Administrator bereit.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -1553,7 +1553,7 @@ Möchten Sie sie speichern?</translation>
     </message>
     <message>
         <source>&lt;b&gt;Peripherals&lt;/b&gt; &lt;br&gt;This enables you to modify the configuration of various peripherals.&lt;p/&gt;</source>
-        <translation>&lt;b&gt;Peripherie&lt;/b&gt; &lt;br&gt;Hiermit ändern Sie die Konfi­guration ver­schiedener Geräte.&lt;p/&gt;</translation>
+        <translation>&lt;b&gt;Peripherie&lt;/b&gt; &lt;br&gt;Hiermit ändern Sie die Konfiguration ver­schiedener Geräte.&lt;p/&gt;</translation>
     </message>
 </context>
 <context>
@@ -1587,15 +1587,15 @@ Möchten Sie sie speichern?</translation>
     </message>
     <message>
         <source>&lt;b&gt;Summary&lt;/b&gt; &lt;br&gt;This page summarizes any customizations you have made to the configuration.</source>
-        <translation>&lt;b&gt;Übersicht&lt;/b&gt; &lt;br&gt;Diese Seite fasst alle Anpassungen zusammen, die Sie an der Konfi­guration vor­genommen haben.</translation>
+        <translation>&lt;b&gt;Übersicht&lt;/b&gt; &lt;br&gt;Diese Seite fasst alle Anpassungen zusammen, die Sie an der Konfiguration vor­genommen haben.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Clicking &apos;Apply this configuration to this Thin Client&apos; will apply the customizations to this Thin Client.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Ein Klick auf „Diese Konfi­guration auf diesen Thin Client anwenden“ wendet die Anpassungen auf diesen Thin Client an.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Ein Klick auf „Diese Konfiguration auf diesen Thin Client anwenden“ wendet die Anpassungen auf diesen Thin Client an.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;p&gt;Clicking &apos;Save Configuration&apos; will save the configuration in a file.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Ein Klick auf „Konfi­guration speichern“ speichert die Konfi­guration in einer Datei.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Ein Klick auf „Konfi­guration speichern“ speichert die Konfiguration in einer Datei.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -1610,7 +1610,7 @@ Möchten Sie sie speichern?</translation>
     </message>
     <message>
         <source>&lt;b&gt;Zelkon&lt;/b&gt;&lt;br&gt;This enables you to: &lt;p&gt;1. Configure regional settings.&lt;/p&gt;&lt;p&gt;2. Configure remote management solutions.&lt;/p&gt;&lt;p&gt;3. Configure peripherals.&lt;/p&gt;&lt;p&gt;4. Configure connections to host systems.&lt;/p&gt;</source>
-        <translation>&lt;b&gt;Zelkon&lt;/b&gt;&lt;br&gt;Hiermit können Sie: &lt;p&gt;1. Regionale Ein­stellungen vornehmen.&lt;/p&gt;&lt;p&gt;2. Lösungen zur Fern­verwaltung einrichten.&lt;/p&gt;&lt;p&gt;3. Die Peripherie einrichten.&lt;/p&gt;&lt;p&gt;4. Verbin­dungen zu Host­systemen einrichten.&lt;/p&gt;</translation>
+        <translation>&lt;b&gt;Zelkon&lt;/b&gt;&lt;br&gt;Hiermit können Sie: &lt;p&gt;1. Regionale Einstellungen vornehmen.&lt;/p&gt;&lt;p&gt;2. Lösungen zur Fern­verwaltung einrichten.&lt;/p&gt;&lt;p&gt;3. Die Peripherie einrichten.&lt;/p&gt;&lt;p&gt;4. Verbindungen zu Host­systemen einrichten.&lt;/p&gt;</translation>
     </message>
 </context>
 </TS>
