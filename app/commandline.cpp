@@ -1,5 +1,6 @@
 #include "commandline.h"
 
+#include "languagemanager.h"
 #include "platform.h"
 
 namespace {
@@ -7,6 +8,7 @@ const QString PlatformOption = QStringLiteral("platform");
 const QString StandaloneOption = QStringLiteral("standalone");
 const QString DeviceRootOption = QStringLiteral("device-root");
 const QString ScreenshotsOption = QStringLiteral("screenshots");
+const QString LanguageOption = QStringLiteral("language");
 } // namespace
 
 CommandLine::CommandLine()
@@ -19,6 +21,10 @@ CommandLine::CommandLine()
     m_parser.addOption(
         { DeviceRootOption, tr("Behave as on the device whose file tree is copied in <dir>."), tr("dir") });
     m_parser.addOption({ ScreenshotsOption, tr("Render every page into a PNG file in <dir> and exit."), tr("dir") });
+    m_parser.addOption({ LanguageOption,
+                         tr("Show the wizard in this language (%1) instead of the system's.")
+                             .arg(LanguageManager::availableLanguages().join(QLatin1String(", "))),
+                         tr("code") });
     m_parser.addPositionalArgument(QStringLiteral("file"), tr("Configuration file (.tavlocfg) to open."), tr("[file]"));
 }
 
@@ -46,6 +52,16 @@ bool CommandLine::parse(const QStringList& arguments)
         if (m_platformIndex < 0) {
             m_error = tr("Unknown platform \"%1\"; choose one of %2.")
                           .arg(wanted, platforms.join(QLatin1String(", ")).toLower());
+            return false;
+        }
+    }
+    m_language.clear();
+    if (m_parser.isSet(LanguageOption)) {
+        const QString wanted = m_parser.value(LanguageOption);
+        m_language = LanguageManager::matchLanguage(wanted);
+        if (m_language.isEmpty()) {
+            m_error = tr("Unknown language \"%1\"; choose one of %2.")
+                          .arg(wanted, LanguageManager::availableLanguages().join(QLatin1String(", ")));
             return false;
         }
     }

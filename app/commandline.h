@@ -7,7 +7,8 @@
 
 /*
  * The wizard's command line: the target platform, standalone mode, a device tree to
- * behave as, a directory to render the pages into, and the configuration file to open.
+ * behave as, a directory to render the pages into, the user interface language, and the
+ * configuration file to open.
  * Parsing never exits the process; the caller decides what to print and return.
  */
 class CommandLine
@@ -33,6 +34,8 @@ public:
     QString deviceRoot() const { return m_deviceRoot; }
     QString screenshotDirectory() const { return m_screenshotDirectory; }
     QString fileName() const { return m_fileName; }
+    // An available language code, or empty when the system's language is to be used.
+    QString language() const { return m_language; }
 
 private:
     QCommandLineParser m_parser;
@@ -44,4 +47,5 @@ private:
     QString m_deviceRoot;
     QString m_screenshotDirectory;
     QString m_fileName;
+    QString m_language;
 };

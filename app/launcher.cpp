@@ -3,6 +3,7 @@
 #include "commandline.h"
 #include "configfilecheck.h"
 #include "displaycheck.h"
+#include "languagemanager.h"
 #include "mainwindow.h"
 #include "pagescreenshotter.h"
 
@@ -85,6 +86,8 @@ int Launcher::checkBeforeStart(const QStringList& arguments)
 
 int Launcher::run(const QStringList& arguments)
 {
+    chooseLanguage(arguments);
+    // Built after the language is chosen, so that --help and the errors speak it.
     CommandLine commandLine;
     if (!commandLine.parse(arguments)) {
         err() << commandLine.errorText() << '\n' << tr("Try --help.") << Qt::endl;
@@ -142,4 +145,13 @@ int Launcher::run(const QStringList& arguments)
 
     window.show();
     return QApplication::exec();
+}
+
+void Launcher::chooseLanguage(const QStringList& arguments)
+{
+    CommandLine commandLine;
+    const bool parsed = commandLine.parse(arguments);
+    const QString language
+        = parsed && !commandLine.language().isEmpty() ? commandLine.language() : LanguageManager::systemLanguage();
+    LanguageManager::instance()->setLanguage(language);
 }

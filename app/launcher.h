@@ -30,4 +30,8 @@ public:
     // arguments as prepareArguments() returned them. Returns the exit code; runs the
     // event loop unless the arguments ask for something else.
     static int run(const QStringList& arguments);
+
+private:
+    // --language, or else the system's language when there is a catalogue for it.
+    static void chooseLanguage(const QStringList& arguments);
 };

@@ -4,6 +4,8 @@
 #include "documentcontroller.h"
 #include "filechooser.h"
 #include "hostedprinterframe.h"
+#include "languagemanager.h"
+#include "languagemenu.h"
 #include "pendingchangesdialog.h"
 
 #include "config/configfile.h"
@@ -81,6 +83,7 @@ MainWindow::MainWindow(QWidget* parent)
     createActions();
     createWidgets();
     createPages();
+    retranslateUi();
 
     connect(Platform::instance(), &Platform::platformChange, this, &MainWindow::onPlatformChanged);
     onPlatformChanged();
@@ -117,47 +120,45 @@ QList<ConfigPage*> MainWindow::containerPages() const
 void MainWindow::createActions()
 {
     QStyle* style = QApplication::style();
-    m_newAction = new QAction(style->standardIcon(QStyle::SP_FileIcon), tr("&New"), this);
+    m_newAction = new QAction(style->standardIcon(QStyle::SP_FileIcon), QString(), this);
     m_newAction->setShortcut(QKeySequence::New);
-    m_newAction->setStatusTip(tr("Start a new configuration"));
     connect(m_newAction, &QAction::triggered, this, &MainWindow::newDocument);
 
-    m_openAction = new QAction(style->standardIcon(QStyle::SP_DialogOpenButton), tr("&Open..."), this);
+    m_openAction = new QAction(style->standardIcon(QStyle::SP_DialogOpenButton), QString(), this);
     m_openAction->setShortcut(QKeySequence::Open);
-    m_openAction->setStatusTip(tr("Open a configuration file"));
     connect(m_openAction, &QAction::triggered, this, &MainWindow::open);
 
-    m_saveAction = new QAction(style->standardIcon(QStyle::SP_DialogSaveButton), tr("&Save"), this);
+    m_saveAction = new QAction(style->standardIcon(QStyle::SP_DialogSaveButton), QString(), this);
     m_saveAction->setShortcut(QKeySequence::Save);
-    m_saveAction->setStatusTip(tr("Save the configuration"));
     connect(m_saveAction, &QAction::triggered, this, &MainWindow::save);
 
-    m_saveAsAction = new QAction(tr("Save &As..."), this);
+    m_saveAsAction = new QAction(this);
     // Not QKeySequence::SaveAs, which some platforms leave without a key.
     m_saveAsAction->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
-    m_saveAsAction->setStatusTip(tr("Save the configuration under a new name"));
     connect(m_saveAsAction, &QAction::triggered, this, &MainWindow::saveAs);
 
-    m_quitAction = new QAction(tr("&Quit"), this);
+    m_quitAction = new QAction(this);
     m_quitAction->setShortcut(QKeySequence::Quit);
     connect(m_quitAction, &QAction::triggered, this, &QWidget::close);
 
-    m_aboutAction = new QAction(tr("&About Zelkon"), this);
+    m_aboutAction = new QAction(this);
     connect(m_aboutAction, &QAction::triggered, this, [this] {
         QMessageBox::about(this, tr("About Zelkon"),
                            tr("<b>Zelkon</b> %1<p>Configuration wizard for Tavlo Thin Clients.</p>")
                                .arg(QApplication::applicationVersion()));
     });
 
-    QMenu* fileMenu = menuBar()->addMenu(tr("&File"));
-    fileMenu->addAction(m_newAction);
-    fileMenu->addAction(m_openAction);
-    fileMenu->addAction(m_saveAction);
-    fileMenu->addAction(m_saveAsAction);
-    fileMenu->addSeparator();
-    fileMenu->addAction(m_quitAction);
-    QMenu* helpMenu = menuBar()->addMenu(tr("&Help"));
-    helpMenu->addAction(m_aboutAction);
+    m_fileMenu = menuBar()->addMenu(QString());
+    m_fileMenu->addAction(m_newAction);
+    m_fileMenu->addAction(m_openAction);
+    m_fileMenu->addAction(m_saveAction);
+    m_fileMenu->addAction(m_saveAsAction);
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(m_quitAction);
+    m_languageMenu = new LanguageMenu(LanguageManager::instance(), this);
+    menuBar()->addMenu(m_languageMenu);
+    m_helpMenu = menuBar()->addMenu(QString());
+    m_helpMenu->addAction(m_aboutAction);
 }
 
 void MainWindow::createWidgets()
@@ -199,10 +200,10 @@ void MainWindow::createWidgets()
     // The title and summary pages carry their own title label.
     m_stack->setStyleSheet(QStringLiteral("QLabel#Title { font-size: 22pt; font-weight: bold; }"));
 
-    m_backButton = new QPushButton(tr("< &Back"));
+    m_backButton = new QPushButton;
     m_backButton->setObjectName(QStringLiteral("BackButton"));
     connect(m_backButton, &QPushButton::clicked, this, &MainWindow::back);
-    m_nextButton = new QPushButton(tr("&Next >"));
+    m_nextButton = new QPushButton;
     m_nextButton->setObjectName(QStringLiteral("NextButton"));
     m_nextButton->setDefault(true);
     connect(m_nextButton, &QPushButton::clicked, this, &MainWindow::next);
@@ -219,7 +220,7 @@ void MainWindow::createWidgets()
     contentLayout->addWidget(m_stack, 1);
     contentLayout->addLayout(m_buttonRow);
 
-    auto* helpTitle = new QLabel(tr("<b>Help</b>"));
+    m_helpTitle = new QLabel;
     m_helpView = new QTextBrowser;
     m_helpView->setObjectName(QStringLiteral("HelpView"));
     m_helpView->setOpenExternalLinks(true);
@@ -227,7 +228,7 @@ void MainWindow::createWidgets()
     auto* helpLayout = new QVBoxLayout(helpPane);
     // Every pixel of a narrow pane goes to the text; the window's margin is outside it.
     helpLayout->setContentsMargins(0, -1, 0, -1);
-    helpLayout->addWidget(helpTitle);
+    helpLayout->addWidget(m_helpTitle);
     helpLayout->addWidget(m_helpView);
 
     helpPane->setMinimumWidth(MinimumHelpWidth);
@@ -246,10 +247,8 @@ void MainWindow::createWidgets()
     centralLayout->addWidget(m_splitter, 1);
     setCentralWidget(central);
 
-    m_standaloneCheck = new QCheckBox(tr("Standalone"));
+    m_standaloneCheck = new QCheckBox;
     m_standaloneCheck->setObjectName(QStringLiteral("StandaloneCheck"));
-    m_standaloneCheck->setToolTip(
-        tr("Prepare configuration files on this computer instead of configuring the Thin Client it runs on."));
     m_standaloneCheck->setChecked(Platform::isStandalone());
     connect(m_standaloneCheck, &QCheckBox::toggled, Platform::instance(), &Platform::setStandalone);
 
@@ -262,12 +261,12 @@ void MainWindow::createPages()
     m_titlePage->setupPlatforms();
     // The chooser shows the global target, which may have been set before this window.
     m_titlePage->platformCombo()->setCurrentIndex(Platform::instance()->target());
-    m_titlePage->platformLabel()->setText(tr("Target &platform:"));
     connect(m_titlePage, &ZelkonTitlePage::loadConfig, this, &MainWindow::open);
     connect(m_titlePage, &ZelkonTitlePage::saveConfig, this, &MainWindow::save);
     connect(m_titlePage, &ZelkonTitlePage::generateConfig, m_document, &DocumentController::generate);
 
-    QToolBar* toolBar = addToolBar(tr("Main"));
+    m_toolBar = addToolBar(QString());
+    QToolBar* toolBar = m_toolBar;
     toolBar->setObjectName(QStringLiteral("MainToolBar"));
     toolBar->setMovable(false);
     toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -290,9 +289,6 @@ void MainWindow::createPages()
     connect(m_summaryPage, &ZelkonSummaryPage::generateConfig, m_document, &DocumentController::generate);
     connect(m_summaryPage, &ZelkonSummaryPage::saveConfig, this, &MainWindow::save);
     connect(m_summaryPage, &ZelkonSummaryPage::applyConfig, this, &MainWindow::applyToDevice);
-    m_summaryPage->summaryView()->setPlaceholderText(
-        tr("Nothing has been set yet, so there is nothing to save or apply. Open a configuration file, or "
-           "change settings on the pages before this one, and they will be listed here."));
     QPushButton* saveButton = m_summaryPage->saveButton();
     m_buttonRow->insertWidget(0, saveButton);
     saveButton->setIcon(QApplication::style()->standardIcon(QStyle::SP_DialogSaveButton));
@@ -310,18 +306,18 @@ void MainWindow::createPages()
     m_pageAreas.at(SummaryPage)->setWidget(m_summaryPage);
     connectPage(m_titlePage);
     connectPage(m_summaryPage);
-    m_pageList->item(TitlePage)->setText(pageListText(TitlePage));
-    m_pageList->item(SummaryPage)->setText(pageListText(SummaryPage));
 }
 
 // The title page asks for loading and saving through its signals; these are its buttons.
 QWidget* MainWindow::createTitleArea()
 {
     QStyle* style = QApplication::style();
-    auto* openButton = new QPushButton(style->standardIcon(QStyle::SP_DialogOpenButton), tr("Open a Configuration..."));
+    m_titleOpenButton = new QPushButton(style->standardIcon(QStyle::SP_DialogOpenButton), QString());
+    QPushButton* openButton = m_titleOpenButton;
     openButton->setObjectName(QStringLiteral("TitleOpenButton"));
     connect(openButton, &QPushButton::clicked, m_titlePage, &ZelkonTitlePage::loadConfig);
-    auto* saveButton = new QPushButton(style->standardIcon(QStyle::SP_DialogSaveButton), tr("Save the Configuration"));
+    m_titleSaveButton = new QPushButton(style->standardIcon(QStyle::SP_DialogSaveButton), QString());
+    QPushButton* saveButton = m_titleSaveButton;
     saveButton->setObjectName(QStringLiteral("TitleSaveButton"));
     connect(saveButton, &QPushButton::clicked, m_titlePage, &ZelkonTitlePage::saveConfig);
     m_currentFileLabel = new QLabel;
@@ -360,9 +356,7 @@ void MainWindow::buildContainerPages()
         connect(pages.at(i), &WizardPage::modified, this, &MainWindow::onPageModified);
         m_pageList->item(index)->setText(pageListText(index));
     }
-    // As wide as the longest title, so that the page itself gets the rest.
-    m_pageList->setFixedWidth(m_pageList->sizeHintForColumn(0) + 2 * m_pageList->frameWidth()
-                              + 4 * m_pageList->spacing());
+    fitPageList();
     const bool rebuilt = m_containerPagesBuilt;
     m_containerPagesBuilt = true;
     m_document->setPages(containerPages());
@@ -376,6 +370,64 @@ void MainWindow::ensureContainerPages() const
     // Building them changes no state a caller could have seen before.
     if (!m_containerPagesBuilt)
         const_cast<MainWindow*>(this)->buildContainerPages();
+}
+
+// As wide as the longest title, so that the page itself gets the rest.
+void MainWindow::fitPageList()
+{
+    m_pageList->setFixedWidth(m_pageList->sizeHintForColumn(0) + 2 * m_pageList->frameWidth()
+                              + 4 * m_pageList->spacing());
+}
+
+void MainWindow::retranslateUi()
+{
+    m_newAction->setText(tr("&New"));
+    m_newAction->setStatusTip(tr("Start a new configuration"));
+    m_openAction->setText(tr("&Open..."));
+    m_openAction->setStatusTip(tr("Open a configuration file"));
+    m_saveAction->setText(tr("&Save"));
+    m_saveAction->setStatusTip(tr("Save the configuration"));
+    m_saveAsAction->setText(tr("Save &As..."));
+    m_saveAsAction->setStatusTip(tr("Save the configuration under a new name"));
+    m_quitAction->setText(tr("&Quit"));
+    m_aboutAction->setText(tr("&About Zelkon"));
+    m_fileMenu->setTitle(tr("&File"));
+    m_helpMenu->setTitle(tr("&Help"));
+    m_toolBar->setWindowTitle(tr("Main"));
+
+    m_backButton->setText(tr("< &Back"));
+    m_nextButton->setText(tr("&Next >"));
+    m_helpTitle->setText(tr("<b>Help</b>"));
+    m_standaloneCheck->setText(tr("Standalone"));
+    m_standaloneCheck->setToolTip(
+        tr("Prepare configuration files on this computer instead of configuring the Thin Client it runs on."));
+    m_titlePage->platformLabel()->setText(tr("Target &platform:"));
+    m_summaryPage->summaryView()->setPlaceholderText(
+        tr("Nothing has been set yet, so there is nothing to save or apply. Open a configuration file, or "
+           "change settings on the pages before this one, and they will be listed here."));
+    m_titleOpenButton->setText(tr("Open a Configuration..."));
+    m_titleSaveButton->setText(tr("Save the Configuration"));
+
+    for (int index = 0; index < PageCount; ++index) {
+        if (m_pages.at(index))
+            m_pageList->item(index)->setText(pageListText(index));
+    }
+    if (m_containerPagesBuilt)
+        fitPageList();
+    updateWindowTitle();
+    refreshPageFrame();
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslateUi();
+        // The summary's section labels come from the document layer, which has no
+        // widget to tell it.
+        if (m_current == SummaryPage)
+            m_summaryPage->updateSummary();
+    }
+    QMainWindow::changeEvent(event);
 }
 
 QString MainWindow::pageListText(int index) const

@@ -7,16 +7,19 @@
 class ConfigPage;
 class DocumentController;
 class FileChooser;
+class LanguageMenu;
 class QAction;
 class QCheckBox;
 class QHBoxLayout;
 class QLabel;
+class QMenu;
 class QListWidget;
 class QPushButton;
 class QScrollArea;
 class QSplitter;
 class QStackedWidget;
 class QTextBrowser;
+class QToolBar;
 class WizardPage;
 class ZelkonSummaryPage;
 class ZelkonTitlePage;
@@ -65,6 +68,7 @@ public:
     QPushButton* nextButton() const { return m_nextButton; }
     QCheckBox* standaloneCheck() const { return m_standaloneCheck; }
     QLabel* emptyPageHint() const { return m_emptyHint; }
+    LanguageMenu* languageMenu() const { return m_languageMenu; }
 
 public slots:
     void showPage(int index);
@@ -87,11 +91,14 @@ signals:
     void containerPagesBuilt();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void retranslateUi();
+    void fitPageList();
     void createActions();
     void createWidgets();
     void createPages();
@@ -135,10 +142,17 @@ private:
     // The user has moved the help pane's edge; from then on the window leaves it there.
     bool m_helpWidthChosen = false;
     QTextBrowser* m_helpView = nullptr;
+    QLabel* m_helpTitle = nullptr;
     QHBoxLayout* m_buttonRow = nullptr;
     QPushButton* m_backButton = nullptr;
     QPushButton* m_nextButton = nullptr;
     QCheckBox* m_standaloneCheck = nullptr;
+    QPushButton* m_titleOpenButton = nullptr;
+    QPushButton* m_titleSaveButton = nullptr;
+    QToolBar* m_toolBar = nullptr;
+    QMenu* m_fileMenu = nullptr;
+    QMenu* m_helpMenu = nullptr;
+    LanguageMenu* m_languageMenu = nullptr;
 
     QAction* m_newAction = nullptr;
     QAction* m_openAction = nullptr;

@@ -431,32 +431,33 @@ bool ConfigFile::validate()
 
 void ConfigFile::createSectionAliasList()
 {
-    m_sectionAliases.insert(QStringLiteral("time_zone"), tr("Time Zone"));
-    m_sectionAliases.insert(QStringLiteral("timezone"), tr("Time Zone"));
-    m_sectionAliases.insert(QStringLiteral("system_locale"), tr("Locale"));
-    m_sectionAliases.insert(QStringLiteral("corrand"), tr("Corrand"));
-    m_sectionAliases.insert(QStringLiteral("pellam"), tr("Pellam"));
-    m_sectionAliases.insert(QStringLiteral("color_depth"), tr("Color Depth"));
-    m_sectionAliases.insert(QStringLiteral("refresh_rate"), tr("Refresh Rate"));
-    m_sectionAliases.insert(QStringLiteral("multi_monitor_mode"), tr("Multi Monitor Mode"));
-    m_sectionAliases.insert(QStringLiteral("primary_monitor"), tr("Primary Monitor"));
-    m_sectionAliases.insert(QStringLiteral("screen_saver_delay"), tr("Screen Saver On"));
-    m_sectionAliases.insert(QStringLiteral("ssid"), tr("SSID"));
-    m_sectionAliases.insert(QStringLiteral("read_only"), tr("Read Only"));
-    m_sectionAliases.insert(QStringLiteral("cda"), tr("CDA"));
-    m_sectionAliases.insert(QStringLiteral("ica"), tr("ICA"));
-    m_sectionAliases.insert(QStringLiteral("rdp"), tr("RDP"));
-    m_sectionAliases.insert(QStringLiteral("vmware"), tr("VMware View"));
-    m_sectionAliases.insert(QStringLiteral("xenapp"), tr("XenApp"));
-    m_sectionAliases.insert(QStringLiteral("browser"), tr("Web Browser"));
-    m_sectionAliases.insert(QStringLiteral("general_settings"), tr("General Settings"));
+    m_sectionAliases.insert(QStringLiteral("time_zone"), QLatin1String(QT_TR_NOOP("Time Zone")));
+    m_sectionAliases.insert(QStringLiteral("timezone"), QLatin1String(QT_TR_NOOP("Time Zone")));
+    m_sectionAliases.insert(QStringLiteral("system_locale"), QLatin1String(QT_TR_NOOP("Locale")));
+    m_sectionAliases.insert(QStringLiteral("corrand"), QLatin1String(QT_TR_NOOP("Corrand")));
+    m_sectionAliases.insert(QStringLiteral("pellam"), QLatin1String(QT_TR_NOOP("Pellam")));
+    m_sectionAliases.insert(QStringLiteral("color_depth"), QLatin1String(QT_TR_NOOP("Color Depth")));
+    m_sectionAliases.insert(QStringLiteral("refresh_rate"), QLatin1String(QT_TR_NOOP("Refresh Rate")));
+    m_sectionAliases.insert(QStringLiteral("multi_monitor_mode"), QLatin1String(QT_TR_NOOP("Multi Monitor Mode")));
+    m_sectionAliases.insert(QStringLiteral("primary_monitor"), QLatin1String(QT_TR_NOOP("Primary Monitor")));
+    m_sectionAliases.insert(QStringLiteral("screen_saver_delay"), QLatin1String(QT_TR_NOOP("Screen Saver On")));
+    m_sectionAliases.insert(QStringLiteral("ssid"), QLatin1String(QT_TR_NOOP("SSID")));
+    m_sectionAliases.insert(QStringLiteral("read_only"), QLatin1String(QT_TR_NOOP("Read Only")));
+    m_sectionAliases.insert(QStringLiteral("cda"), QLatin1String(QT_TR_NOOP("CDA")));
+    m_sectionAliases.insert(QStringLiteral("ica"), QLatin1String(QT_TR_NOOP("ICA")));
+    m_sectionAliases.insert(QStringLiteral("rdp"), QLatin1String(QT_TR_NOOP("RDP")));
+    m_sectionAliases.insert(QStringLiteral("vmware"), QLatin1String(QT_TR_NOOP("VMware View")));
+    m_sectionAliases.insert(QStringLiteral("xenapp"), QLatin1String(QT_TR_NOOP("XenApp")));
+    m_sectionAliases.insert(QStringLiteral("browser"), QLatin1String(QT_TR_NOOP("Web Browser")));
+    m_sectionAliases.insert(QStringLiteral("general_settings"), QLatin1String(QT_TR_NOOP("General Settings")));
 }
 
 QString ConfigFile::sectionAlias(const QString& name)
 {
+    // The map holds the source texts, so that the labels follow a language switch.
     const auto alias = m_sectionAliases.constFind(name);
     if (alias != m_sectionAliases.constEnd())
-        return alias.value();
+        return tr(alias.value().toLatin1().constData());
     if (name.isEmpty())
         return name;
     return name.left(1).toUpper() + name.mid(1);

@@ -14,6 +14,5 @@ void MessageHandler::handleMessage(QtMsgType type, const QString& description, c
     Q_UNUSED(identifier)
     m_line = static_cast<int>(sourceLocation.line());
     m_column = static_cast<int>(sourceLocation.column());
-    m_description
-        = QStringLiteral("Line %1 Col %2 %3").arg(QString::number(m_line), QString::number(m_column), description);
+    m_description = tr("Line %1 Col %2 %3").arg(QString::number(m_line), QString::number(m_column), description);
 }

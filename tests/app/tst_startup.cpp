@@ -101,8 +101,10 @@ void TestStartup::withoutDisplay()
     QFETCH(QString, output);
 
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char* name : { "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM" })
+    for (const char* name : { "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "LANGUAGE" })
         environment.remove(QLatin1String(name));
+    // The messages compared are the English ones, whatever the machine's language.
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
     if (!qpaPlatform.isEmpty())
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), qpaPlatform);
     QProcess process;

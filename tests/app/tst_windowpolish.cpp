@@ -1,5 +1,6 @@
 #include "documentcontroller.h"
 #include "filecontents.h"
+#include "languagemanager.h"
 #include "mainwindow.h"
 #include "scriptedchooser.h"
 
@@ -66,14 +67,16 @@ QString cutOff(QWidget* widget, QWidget* window)
 }
 
 // A help word too wide for the pane, which would be broken in the middle, or "" when
-// every word fits. Web addresses are allowed to break.
+// every word fits. Web addresses are allowed to break, and so are words after a hyphen,
+// soft hyphens included (German compounds carry them).
 QString helpWordTooWide(QTextBrowser* help)
 {
     QFont bold = help->font();
     bold.setBold(true);
     const QFontMetrics metrics(bold);
     const int width = help->viewport()->width() - 2 * int(help->document()->documentMargin());
-    const QStringList words = help->toPlainText().split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
+    const QStringList words
+        = help->toPlainText().split(QRegularExpression(QStringLiteral("\\s+|(?<=[-\\x{00ad}])")), Qt::SkipEmptyParts);
     for (const QString& word : words) {
         const bool address = word.contains('/') || word.contains(QRegularExpression(QStringLiteral("\\.\\w")));
         if (!address && metrics.horizontalAdvance(word) > width)
@@ -128,6 +131,7 @@ void TestWindowPolish::init()
 
 void TestWindowPolish::cleanup()
 {
+    LanguageManager::instance()->setLanguage(LanguageManager::SourceLanguage);
     m_window.reset();
     MachineRoot::setRoot(QString());
     QDir::setCurrent(m_oldCurrent);
@@ -148,9 +152,14 @@ void TestWindowPolish::everyPageFitsSmallScreens_data()
 {
     QTest::addColumn<QString>("example");
     QTest::addColumn<QSize>("size");
-    for (const QString& name : QDir(Examples).entryList({ QStringLiteral("*.tavlocfg") }))
-        QTest::newRow(qPrintable(name + ", 800x600")) << name << QSize(800, 600);
-    QTest::newRow("lunvex-kiosk, 1000x700") << QStringLiteral("lunvex-kiosk.tavlocfg") << QSize(1000, 700);
+    QTest::addColumn<QString>("language");
+    // German texts run about a third longer than the English ones.
+    for (const QString& language : { QStringLiteral("en"), QStringLiteral("de") }) {
+        for (const QString& name : QDir(Examples).entryList({ QStringLiteral("*.tavlocfg") }))
+            QTest::newRow(qPrintable(name + ", 800x600, " + language)) << name << QSize(800, 600) << language;
+    }
+    QTest::newRow("lunvex-kiosk, 1000x700, en")
+        << QStringLiteral("lunvex-kiosk.tavlocfg") << QSize(1000, 700) << QStringLiteral("en");
 }
 
 // The smallest screen of many thin clients: nothing cut, nothing to scroll sideways.
@@ -158,6 +167,8 @@ void TestWindowPolish::everyPageFitsSmallScreens()
 {
     QFETCH(QString, example);
     QFETCH(QSize, size);
+    QFETCH(QString, language);
+    QVERIFY(LanguageManager::instance()->setLanguage(language));
     Platform::instance()->setTarget(targetOf(example));
     QVERIFY(m_window->openFile(copyOfExample(example)));
     m_window->resize(size);

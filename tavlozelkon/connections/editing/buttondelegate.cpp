@@ -1,6 +1,7 @@
 #include "buttondelegate.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QIcon>
 #include <QTableWidget>
 #include <QToolButton>
@@ -26,17 +27,30 @@ QWidget* ButtonDelegate::createEditor(QWidget* parent, const QStyleOptionViewIte
     switch (m_role) {
     case EditButton:
         action->setIcon(QIcon(QStringLiteral(":/editIcon")));
-        action->setToolTip(tr("Edit the connection"));
         connect(button, &QToolButton::triggered, self, qOverload<QAction*>(&ButtonDelegate::editConnection));
         break;
     case DeleteButton:
         action->setIcon(QIcon(QStringLiteral(":/deleteIcon")));
-        action->setToolTip(tr("Delete the connection"));
         connect(button, &QToolButton::triggered, self, qOverload<QAction*>(&ButtonDelegate::deleteConnection));
         break;
     }
+    action->setToolTip(toolTip());
     button->setDefaultAction(action);
     return button;
+}
+
+QString ButtonDelegate::toolTip() const
+{
+    return m_role == EditButton ? tr("Edit the connection") : tr("Delete the connection");
+}
+
+bool ButtonDelegate::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        if (auto* button = qobject_cast<QToolButton*>(watched); button && button->defaultAction())
+            button->defaultAction()->setToolTip(toolTip());
+    }
+    return QItemDelegate::eventFilter(watched, event);
 }
 
 void ButtonDelegate::openButtons(QTableWidget* table, std::initializer_list<int> columns)

@@ -36,6 +36,8 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     // The column takes the size of the button, not of the id text behind it.
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    // The view makes the delegate watch its buttons; a language change re-words their tips.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
     void editConnection(QString id);
@@ -46,5 +48,7 @@ public slots:
     void deleteConnection(QAction* action);
 
 private:
+    QString toolTip() const;
+
     ButtonRole_t m_role;
 };
