@@ -57,6 +57,8 @@ summary and applied on the thin client.
 .
 This package contains the zelkon wizard, the zelkonctl command-line tool,
 example configurations and an example device tree.")
+# Qt's own catalogues translate the standard dialog buttons beside the wizard's texts.
+set(CPACK_DEBIAN_APPLICATION_PACKAGE_RECOMMENDS qttranslations5-l10n)
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${ZELKON_DEB_RUNTIME_PACKAGE})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
