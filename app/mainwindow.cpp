@@ -295,7 +295,8 @@ void MainWindow::createPages()
            "change settings on the pages before this one, and they will be listed here."));
     QPushButton* saveButton = m_summaryPage->saveButton();
     m_buttonRow->insertWidget(0, saveButton);
-    saveButton->setIcon(QApplication::style()->standardIcon(QStyle::SP_DialogSaveButton));
+    // The actions' icons, shared: each fresh standard icon decodes its images again.
+    saveButton->setIcon(m_saveAction->icon());
 
     m_pages = { m_titlePage, nullptr, nullptr, nullptr, nullptr, m_summaryPage };
     for (int index = 0; index < PageCount; ++index) {
@@ -317,11 +318,10 @@ void MainWindow::createPages()
 // The title page asks for loading and saving through its signals; these are its buttons.
 QWidget* MainWindow::createTitleArea()
 {
-    QStyle* style = QApplication::style();
-    auto* openButton = new QPushButton(style->standardIcon(QStyle::SP_DialogOpenButton), tr("Open a Configuration..."));
+    auto* openButton = new QPushButton(m_openAction->icon(), tr("Open a Configuration..."));
     openButton->setObjectName(QStringLiteral("TitleOpenButton"));
     connect(openButton, &QPushButton::clicked, m_titlePage, &ZelkonTitlePage::loadConfig);
-    auto* saveButton = new QPushButton(style->standardIcon(QStyle::SP_DialogSaveButton), tr("Save the Configuration"));
+    auto* saveButton = new QPushButton(m_saveAction->icon(), tr("Save the Configuration"));
     saveButton->setObjectName(QStringLiteral("TitleSaveButton"));
     connect(saveButton, &QPushButton::clicked, m_titlePage, &ZelkonTitlePage::saveConfig);
     m_currentFileLabel = new QLabel;
