@@ -14,7 +14,6 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
-#include <QHash>
 #include <QSaveFile>
 #include <QTextStream>
 #include <QUrl>
@@ -26,60 +25,6 @@ namespace {
 const QString RootName = QStringLiteral("zelkon");
 // The settings tool always works on this file in the current directory.
 const QString DeviceSettingsFile = QStringLiteral("default.tavlocfg");
-// About what the summary's row of one value takes, and a bound on the guess made from it.
-const int SummaryCharactersPerElement = 64;
-const int MaxSummaryReserve = 16 * 1024 * 1024;
-
-// Qt's parser gives every element a string of its own for its name, although a
-// configuration repeats a few dozen names throughout; sharing one string per name gives
-// most of that memory back before the pages and models build on the document.
-void shareElementNames(const QDomDocument& document)
-{
-    QHash<QString, QString> names;
-    QDomNode node = document.documentElement();
-    while (!node.isNull()) {
-        // The name of an element with a prefix is stored without it; such are left alone.
-        if (node.isElement() && node.prefix().isEmpty()) {
-            QDomElement element = node.toElement();
-            const QString name = element.tagName();
-            const auto shared = names.constFind(name);
-            if (shared == names.constEnd())
-                names.insert(name, name);
-            else
-                element.setTagName(shared.value());
-        }
-        if (node.hasChildNodes()) {
-            node = node.firstChild();
-            continue;
-        }
-        while (node.nextSibling().isNull() && node.parentNode().isElement())
-            node = node.parentNode();
-        node = node.nextSibling();
-    }
-}
-
-// For a guess of the summary's length, so that the summary of a large document grows in
-// place instead of leaving a trail of outgrown copies behind.
-int elementCount(const QDomElement& top)
-{
-    int count = 0;
-    QDomNode node = top.firstChild();
-    while (!node.isNull()) {
-        if (node.isElement())
-            ++count;
-        if (node.hasChildNodes()) {
-            node = node.firstChild();
-            continue;
-        }
-        while (node.nextSibling().isNull()) {
-            node = node.parentNode();
-            if (node == top)
-                return count;
-        }
-        node = node.nextSibling();
-    }
-    return count;
-}
 } // namespace
 
 ConfigFile::ConfigFile()
@@ -371,7 +316,6 @@ bool ConfigFile::load(QString path)
     const bool parsed = verdict == ParseGuard::Verdict::Accepted && setContent(content, true);
     if (parsed) {
         order->pairWith(*this);
-        shareElementNames(*this);
     } else {
         // Qt keeps what it parsed up to the error; half a configuration is worse than none.
         QDomNode::clear();
@@ -527,8 +471,6 @@ QString ConfigFile::toFormattedString()
     // each be a second copy of up to a whole section, and the summary of a large file is
     // several times the file's size.
     QString html;
-    html.reserve(
-        int(qMin<qint64>(qint64(SummaryCharactersPerElement) * elementCount(root.toElement()), MaxSummaryReserve)));
     for (QDomElement section = root.firstChildElement(); !section.isNull(); section = section.nextSiblingElement())
         appendSection(html, section);
     return html;

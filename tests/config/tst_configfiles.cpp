@@ -104,7 +104,7 @@ private slots:
             "<zelkon><a><![CDATA[x < y && \"z\" ]]]]><![CDATA[>]]></a><b>t<![CDATA[c]]>u</b></zelkon>");
         QTest::newRow("mixed text") << QByteArray(
             "<zelkon><p>before <b>bold</b> after<i/> tail</p><s><n>x\ny</n><e></e></s></zelkon>");
-        // Loading shares one string per element name; prefixed names must come back whole.
+        // Namesakes with and without a prefix.
         QTest::newRow("repeated and prefixed names") << QByteArray(
             "<zelkon xmlns:t=\"urn:t\"><t:a>1</t:a><a>2</a><t:a><a>3</a></t:a><a><t:a>4</t:a></a></zelkon>");
         QTest::newRow("latin-1") << QByteArray(
