@@ -19,8 +19,6 @@ DocumentController::DocumentController(QObject* parent)
     , m_loaded(std::make_unique<ConfigFile>())
     , m_generated(std::make_unique<ConfigFile>())
 {
-    // The summary page validates the generated document.
-    m_generated->setSchema(ConfigSchema::shipped());
 }
 
 DocumentController::~DocumentController() = default;
@@ -87,6 +85,12 @@ void DocumentController::generate()
 
 void DocumentController::generateFor(Destination destination)
 {
+    // The summary page validates the generated document. Compiling the schema costs more
+    // than building the first page, so it waits for the first document to validate.
+    if (!m_schemaSet) {
+        m_generated->setSchema(ConfigSchema::shipped());
+        m_schemaSet = true;
+    }
     const QDomElement loadedRoot = m_loaded->documentElement();
     QDomElement oldRoot = m_generated->documentElement();
     QDomNode copy = m_generated->importNode(loadedRoot, true);

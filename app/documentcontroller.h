@@ -72,6 +72,7 @@ private:
 
     std::unique_ptr<ConfigFile> m_loaded;
     std::unique_ptr<ConfigFile> m_generated;
+    bool m_schemaSet = false;
     QList<QPointer<ConfigPage>> m_pages;
     QString m_filePath;
 };

@@ -291,7 +291,8 @@ void MainWindow::createPages()
     connect(m_summaryPage, &ZelkonSummaryPage::applyConfig, this, &MainWindow::applyToDevice);
     QPushButton* saveButton = m_summaryPage->saveButton();
     m_buttonRow->insertWidget(0, saveButton);
-    saveButton->setIcon(QApplication::style()->standardIcon(QStyle::SP_DialogSaveButton));
+    // The actions' icons, shared: each fresh standard icon decodes its images again.
+    saveButton->setIcon(m_saveAction->icon());
 
     m_pages = { m_titlePage, nullptr, nullptr, nullptr, nullptr, m_summaryPage };
     for (int index = 0; index < PageCount; ++index) {
@@ -311,12 +312,12 @@ void MainWindow::createPages()
 // The title page asks for loading and saving through its signals; these are its buttons.
 QWidget* MainWindow::createTitleArea()
 {
-    QStyle* style = QApplication::style();
-    m_titleOpenButton = new QPushButton(style->standardIcon(QStyle::SP_DialogOpenButton), QString());
+    // The actions' icons, shared: each fresh standard icon decodes its images again.
+    m_titleOpenButton = new QPushButton(m_openAction->icon(), QString());
     QPushButton* openButton = m_titleOpenButton;
     openButton->setObjectName(QStringLiteral("TitleOpenButton"));
     connect(openButton, &QPushButton::clicked, m_titlePage, &ZelkonTitlePage::loadConfig);
-    m_titleSaveButton = new QPushButton(style->standardIcon(QStyle::SP_DialogSaveButton), QString());
+    m_titleSaveButton = new QPushButton(m_saveAction->icon(), QString());
     QPushButton* saveButton = m_titleSaveButton;
     saveButton->setObjectName(QStringLiteral("TitleSaveButton"));
     connect(saveButton, &QPushButton::clicked, m_titlePage, &ZelkonTitlePage::saveConfig);

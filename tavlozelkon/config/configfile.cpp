@@ -468,65 +468,94 @@ QString ConfigFile::toFormattedString()
     const QDomNode root = findNode(RootName, firstChild());
     if (root.isNull())
         return QString();
+    // Everything is appended to this one string: pieces built apart and then added would
+    // each be a second copy of up to a whole section, and the summary of a large file is
+    // several times the file's size.
     QString html;
     for (QDomElement section = root.firstChildElement(); !section.isNull(); section = section.nextSiblingElement())
-        html += elementToString(section);
+        appendSection(html, section);
     return html;
 }
 
 QString ConfigFile::elementToString(QDomElement& section)
 {
-    const QString tag = section.tagName();
-    // Empty sections are left out, except that a supported connection type is listed even
-    // without connections.
-    if (!section.hasChildNodes() && !ConnectionModel::sSupportedConnectionTypes().contains(tag, Qt::CaseSensitive))
-        return QString();
-
-    QString html = QLatin1String("<h3>") + sectionAlias(tag).toHtmlEscaped() + QLatin1String("</h3><table>");
-    for (QDomElement child = section.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        const QString childTag = child.tagName();
-        if (childTag == QLatin1String("session")) {
-            html += sessionToString(child);
-        } else if (childTag == QLatin1String("general_settings")) {
-            html += generalSettingsToString(child);
-        } else {
-            QString value = child.firstChild().nodeValue();
-            if (childTag == QLatin1String("passphrase") || childTag == QLatin1String("password"))
-                value = QStringLiteral("********");
-            // append(), not += of a concatenation: that reserves exactly and turns a large
-            // summary quadratic.
-            html.append(QLatin1String("<tr><td width =\"50%\">") + sectionAlias(childTag).toHtmlEscaped()
-                        + QLatin1String("</td><td>") + value.toHtmlEscaped() + QLatin1String("</td></tr>"));
-        }
-    }
-    html += QLatin1String("</table>");
+    QString html;
+    appendSection(html, section);
     return html;
 }
 
 QString ConfigFile::sessionToString(QDomElement& element)
 {
-    // Records are shown as stored: a session's password is not masked.
     QString html;
+    appendSession(html, element);
+    return html;
+}
+
+QString ConfigFile::generalSettingsToString(QDomElement& element)
+{
+    QString html;
+    appendGeneralSettings(html, element);
+    return html;
+}
+
+QString ConfigFile::proxySettingsToString(QDomElement& element)
+{
+    QString html;
+    appendProxySettings(html, element);
+    return html;
+}
+
+// append() of one concatenation each, never += of one: that reserves exactly and turns a
+// large summary quadratic.
+void ConfigFile::appendSection(QString& html, const QDomElement& section)
+{
+    const QString tag = section.tagName();
+    // Empty sections are left out, except that a supported connection type is listed even
+    // without connections.
+    if (!section.hasChildNodes() && !ConnectionModel::sSupportedConnectionTypes().contains(tag, Qt::CaseSensitive))
+        return;
+
+    html.append(QLatin1String("<h3>") + sectionAlias(tag).toHtmlEscaped() + QLatin1String("</h3><table>"));
+    for (QDomElement child = section.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        const QString childTag = child.tagName();
+        if (childTag == QLatin1String("session")) {
+            appendSession(html, child);
+        } else if (childTag == QLatin1String("general_settings")) {
+            appendGeneralSettings(html, child);
+        } else {
+            QString value = child.firstChild().nodeValue();
+            if (childTag == QLatin1String("passphrase") || childTag == QLatin1String("password"))
+                value = QStringLiteral("********");
+            html.append(QLatin1String("<tr><td width =\"50%\">") + sectionAlias(childTag).toHtmlEscaped()
+                        + QLatin1String("</td><td>") + value.toHtmlEscaped() + QLatin1String("</td></tr>"));
+        }
+    }
+    html.append(QLatin1String("</table>"));
+}
+
+void ConfigFile::appendSession(QString& html, const QDomElement& element)
+{
+    // Records are shown as stored: a session's password is not masked.
     for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
         if (child.tagName() == QLatin1String("proxy")) {
-            html += proxySettingsToString(child);
+            appendProxySettings(html, child);
         } else {
             html.append(QLatin1String("<tr><td width=\"10%\"/><td width =\"50%\">")
                         + sectionAlias(child.tagName()).toHtmlEscaped() + QLatin1String("</td><td>")
                         + child.text().toHtmlEscaped() + QLatin1String("</td></tr>"));
         }
     }
-    html += QLatin1String("<tr/>");
-    return html;
+    html.append(QLatin1String("<tr/>"));
 }
 
-QString ConfigFile::generalSettingsToString(QDomElement& element)
+void ConfigFile::appendGeneralSettings(QString& html, const QDomElement& element)
 {
-    return QLatin1String("<tr><td width=\"10%\"/><td width =\"50%\">General Settings</td></tr>")
-        + sessionToString(element);
+    html.append(QLatin1String("<tr><td width=\"10%\"/><td width =\"50%\">General Settings</td></tr>"));
+    appendSession(html, element);
 }
 
-QString ConfigFile::proxySettingsToString(QDomElement& element)
+void ConfigFile::appendProxySettings(QString& html, const QDomElement& element)
 {
-    return QLatin1String("<tr><td width=\"10%\"/><td width =\"50%\">Proxy</td></tr>") + sessionToString(element);
+    html.append(QLatin1String("<tr><td width=\"10%\"/><td width =\"50%\">Proxy</td></tr>"));
+    appendSession(html, element);
 }

@@ -118,6 +118,10 @@ private:
     // cursor must be an element.
     void appendElement(const QString& name);
     void createSectionAliasList();
+    void appendSection(QString& html, const QDomElement& section);
+    void appendSession(QString& html, const QDomElement& element);
+    void appendGeneralSettings(QString& html, const QDomElement& element);
+    void appendProxySettings(QString& html, const QDomElement& element);
 
     QDomNode m_currentNode;
     bool m_valid = false;

@@ -7,6 +7,7 @@
 #include <QSet>
 #include <QTextCodec>
 #include <QTextStream>
+#include <algorithm>
 
 namespace {
 
@@ -18,9 +19,14 @@ struct Context
     int indent;
 };
 
-QString indentation(const Context& context, int depth)
+void writeIndentation(const Context& context, int depth)
 {
-    return QString(context.indent < 1 ? 0 : depth * context.indent, QLatin1Char(' '));
+    // Written from one string of spaces rather than from a new one per line.
+    static const QString spaces(64, QLatin1Char(' '));
+    int width = context.indent < 1 ? 0 : depth * context.indent;
+    for (; width > spaces.size(); width -= spaces.size())
+        context.stream << spaces;
+    context.stream << spaces.leftRef(width);
 }
 
 // Qt's escaping: "<" and "&" always; '"' where asked; ">" only after "]]"; carriage returns
@@ -34,6 +40,25 @@ QString encodeText(const QString& text, const QTextStream& stream, bool encodeQu
     // character but half of a surrogate pair, for which the codec is still asked.
     const int mib = codec ? codec->mibEnum() : 0;
     const bool unicode = mib == 106 || (mib >= 1013 && mib <= 1015) || (mib >= 1017 && mib <= 1019);
+    // Most values need nothing escaped; they are written as they are, without a copy.
+    if (!codec || unicode) {
+        const auto plain = [](QChar c) {
+            switch (c.unicode()) {
+            case u'<':
+            case u'"':
+            case u'&':
+            case u'>':
+            case u'\r':
+            case u'\n':
+            case u'\t':
+                return false;
+            default:
+                return !c.isSurrogate();
+            }
+        };
+        if (std::all_of(text.cbegin(), text.cend(), plain))
+            return text;
+    }
     QString result;
     result.reserve(text.size());
     for (int i = 0; i < text.size(); ++i) {
@@ -118,7 +143,7 @@ void openElement(const QDomElement& element, Context& context, int depth)
     QTextStream& s = context.stream;
     const QDomNode previous = element.previousSibling();
     if (!(!previous.isNull() && previous.isText()))
-        s << indentation(context, depth);
+        writeIndentation(context, depth);
 
     s << '<' << element.nodeName();
     if (!element.namespaceURI().isNull()) {
@@ -141,7 +166,7 @@ void closeElement(const QDomElement& element, Context& context, int depth)
 {
     QTextStream& s = context.stream;
     if (!element.lastChild().isText())
-        s << indentation(context, depth);
+        writeIndentation(context, depth);
     s << "</" << element.nodeName() << '>';
     writeLineEndAfter(element, context);
 }
@@ -165,7 +190,7 @@ void saveLeaf(const QDomNode& node, Context& context, int depth)
     case QDomNode::CommentNode: {
         const QDomNode previous = node.previousSibling();
         if (!(!previous.isNull() && previous.isText()))
-            s << indentation(context, depth);
+            writeIndentation(context, depth);
         const QString value = node.nodeValue();
         s << "<!--" << value;
         // A comment must not end in "--->".

@@ -92,6 +92,7 @@ private slots:
     void sectionsAfterGenerating_data();
     void sectionsAfterGenerating();
     void generatingTwiceGivesTheSame();
+    void generatedDocumentIsValidated();
     void loadRefusesWhatIsNoConfiguration_data();
     void loadRefusesWhatIsNoConfiguration();
     void saveFailureReasons_data();
@@ -239,6 +240,20 @@ void TestDocumentController::generatingTwiceGivesTheSame()
         m_controller->load(write(QStringLiteral("next.tavlocfg"), "<zelkon><usb><a>1</a></usb></zelkon>"), nullptr));
     m_controller->generate();
     QCOMPARE(outline(m_controller->generatedDocument()->documentElement()), "usb=1");
+}
+
+void TestDocumentController::generatedDocumentIsValidated()
+{
+    // The shipped schema is compiled with the first generation, not with the controller;
+    // without a schema validate() reports false.
+    open("<zelkon><keyboard><layout>Germany</layout></keyboard></zelkon>");
+    m_controller->generate();
+    QVERIFY(m_controller->generatedDocument()->validate());
+    QVERIFY(m_controller->generatedDocument()->isValid());
+
+    m_controller->generatedDocument()->setCurrentNodeAsRoot();
+    m_controller->generatedDocument()->setValue(QStringLiteral("no_such_section"), QStringLiteral("1"));
+    QVERIFY(!m_controller->generatedDocument()->validate());
 }
 
 void TestDocumentController::loadRefusesWhatIsNoConfiguration_data()

@@ -94,12 +94,19 @@ private slots:
         QTest::newRow("escaping") << QByteArray(
             "<zelkon version=\"1.0\"><a v=\"&amp;&lt;&gt;&quot;'&#10;&#9;&#13;]]&gt;\">"
             "amp &amp; lt &lt; gt &gt; quot \" ]]&gt; cr&#13;\ttab</a></zelkon>");
+        // Values that need a single character escaped, each alone in its value.
+        QTest::newRow("one escape each") << QByteArray(
+            "<zelkon><a v=\"x&amp;y\">a &amp; b</a><b v=\"q&quot;\">c &gt; d</b><c v=\"t&#9;\">e&#13;f</c>"
+            "<d v=\"l&lt;\">g ]]&gt; h</d><e v=\"n&#10;\">i\nj</e><f v=\"r&#13;\">k \" l</f><g>m &lt; n</g></zelkon>");
         QTest::newRow("comments") << QByteArray("<?xml version=\"1.0\" encoding=\"utf-8\"?><!-- head -->"
                                                 "<zelkon><!--inner--><a>1<!--in text-->2</a><b/></zelkon><!--tail-->");
         QTest::newRow("cdata") << QByteArray(
             "<zelkon><a><![CDATA[x < y && \"z\" ]]]]><![CDATA[>]]></a><b>t<![CDATA[c]]>u</b></zelkon>");
         QTest::newRow("mixed text") << QByteArray(
             "<zelkon><p>before <b>bold</b> after<i/> tail</p><s><n>x\ny</n><e></e></s></zelkon>");
+        // Namesakes with and without a prefix.
+        QTest::newRow("repeated and prefixed names") << QByteArray(
+            "<zelkon xmlns:t=\"urn:t\"><t:a>1</t:a><a>2</a><t:a><a>3</a></t:a><a><t:a>4</t:a></a></zelkon>");
         QTest::newRow("latin-1") << QByteArray(
             "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><zelkon><a n=\"\xe9\">\xe9 &#x20AC;</a></zelkon>");
     }

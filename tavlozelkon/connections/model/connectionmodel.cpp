@@ -58,7 +58,16 @@ enum class ValueKind { Text, Bool, Int };
 
 struct Field
 {
+    Field(const char* fieldKey, ValueKind fieldKind)
+        : key(fieldKey)
+        , name(QLatin1String(fieldKey))
+        , kind(fieldKind)
+    {
+    }
+
     const char* key;
+    // The element name, made once: every element written with it shares the string.
+    QString name;
     ValueKind kind;
 };
 
@@ -114,34 +123,38 @@ SectionLayout sectionLayout(const QString& key)
 void readFields(ConfigFile* config, ConfigAtom* atom, const QList<Field>& fields)
 {
     for (const Field& field : fields) {
-        const QString key = QLatin1String(field.key);
         switch (field.kind) {
         case ValueKind::Text:
-            atom->setProperty(field.key, config->value(key));
+            atom->setProperty(field.key, config->value(field.name));
             break;
         case ValueKind::Bool:
-            atom->setProperty(field.key, config->boolValue(key));
+            atom->setProperty(field.key, config->boolValue(field.name));
             break;
         case ValueKind::Int:
-            atom->setProperty(field.key, config->intValue(key));
+            atom->setProperty(field.key, config->intValue(field.name));
             break;
         }
     }
 }
 
-// Text fields take the variant's text, so a boolean stored in one is written as
-// "true"/"false". A missing atom writes the empty values.
+// Writes the fields below the cursor, which must be an element just added and still
+// empty: each field is then new there, so it is appended without first searching for it
+// (as setValue() would, to the same effect). Text fields take the variant's text, so a
+// boolean stored in one is written as "true"/"false", as setBoolValue() would write it.
+// A missing atom writes the empty values.
 void writeFields(ConfigFile* config, const ConfigAtom* atom, const QList<Field>& fields, bool boolAsText)
 {
     for (const Field& field : fields) {
-        const QString key = QLatin1String(field.key);
         const QVariant value = atom ? atom->property(field.key) : QVariant();
+        QString text;
         if (field.kind == ValueKind::Int)
-            config->setIntValue(key, value.toInt());
+            text = QString::number(value.toInt(), 10);
         else if (field.kind == ValueKind::Bool && !boolAsText)
-            config->setBoolValue(key, value.toBool());
+            text = value.toBool() ? QStringLiteral("true") : QStringLiteral("false");
         else
-            config->setValue(key, value.toString());
+            text = value.toString();
+        config->createTextNode(field.name, text);
+        config->leaveNode();
     }
 }
 
