@@ -2,7 +2,7 @@
 # Installs what building and testing Zelkon needs on Debian 12, plus any packages given as
 # arguments. Does nothing when everything is installed already.
 set -eu
-packages="cmake g++ make qtbase5-dev libqt5xmlpatterns5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools $*"
+packages="cmake g++ make dpkg-dev qtbase5-dev libqt5xmlpatterns5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools $*"
 
 missing=
 for package in $packages; do

@@ -2,6 +2,9 @@
 # The last step of CI: builds the Debian packages (Release, without the tests), checks them
 # with lintian, installs them on this machine and runs the installed programs from their
 # installed paths. Needs root or sudo, as it installs into /usr.
+#
+# Given a build directory configured for /usr (CI passes build-tests, see run-tests.sh),
+# it packages that build instead of building a new one.
 set -eu
 cd "$(dirname "$0")/.."
 sh scripts/install-build-deps.sh dpkg-dev lintian desktop-file-utils appstream file
@@ -9,24 +12,29 @@ start=$(date +%s)
 SUDO=
 [ "$(id -u)" -eq 0 ] || SUDO=sudo
 
-rm -rf build-pkg
-launcher=
-command -v ccache >/dev/null && launcher=-DCMAKE_CXX_COMPILER_LAUNCHER=ccache
-# Debian's own compiler and linker flags (fortify, stack protector, relro, bind now), as
-# lintian expects them.
-export DEB_BUILD_MAINT_OPTIONS=hardening=+bindnow
-CXXFLAGS="$(dpkg-buildflags --get CXXFLAGS) $(dpkg-buildflags --get CPPFLAGS)" \
-LDFLAGS="$(dpkg-buildflags --get LDFLAGS)" \
-    cmake -S . -B build-pkg -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
-    -DZELKON_BUILD_TESTS=OFF $launcher
-cmake --build build-pkg -j"$(nproc)"
-(cd build-pkg && cpack -G DEB)
+build=${1:-}
+if [ -z "$build" ]; then
+    build=build-pkg
+    rm -rf build-pkg
+    launcher=
+    command -v ccache >/dev/null && launcher=-DCMAKE_CXX_COMPILER_LAUNCHER=ccache
+    # Debian's own compiler and linker flags (fortify, stack protector, relro, bind now), as
+    # lintian expects them.
+    export DEB_BUILD_MAINT_OPTIONS=hardening=+bindnow
+    CXXFLAGS="$(dpkg-buildflags --get CXXFLAGS) $(dpkg-buildflags --get CPPFLAGS)" \
+    LDFLAGS="$(dpkg-buildflags --get LDFLAGS)" \
+        cmake -S . -B build-pkg -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
+        -DZELKON_BUILD_TESTS=OFF $launcher
+    cmake --build build-pkg -j"$(nproc)"
+fi
+rm -f "$build"/*.deb
+(cd "$build" && cpack -G DEB)
 echo "package: built in $(($(date +%s) - start)) s"
 
 # Errors fail the build; warnings are shown and have been looked at.
-lintian --fail-on error --tag-display-limit 0 build-pkg/*.deb
+lintian --fail-on error --tag-display-limit 0 "$build"/*.deb
 
-DEBIAN_FRONTEND=noninteractive $SUDO apt-get install -y ./build-pkg/*.deb
+DEBIAN_FRONTEND=noninteractive $SUDO apt-get install -y ./"$build"/*.deb
 
 examples=/usr/share/zelkon/examples
 scratch=$(mktemp -d)

@@ -27,7 +27,8 @@ endif()
 
 run_step(${CMAKE_COMMAND} -S ${CONSUMER_SOURCE_DIR} -B ${WORK_DIR}/build -DCMAKE_PREFIX_PATH=${prefix})
 run_step(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
-run_step(${WORK_DIR}/build/consumer)
+# Installed under /usr our libraries carry no RPATH, so the scratch prefix is named here.
+run_step(${CMAKE_COMMAND} -E env LD_LIBRARY_PATH=${prefix}/${LIBDIR} ${WORK_DIR}/build/consumer)
 if(NOT step_output MATCHES "zelkon version=\"1.0\" creator=\"zelkon\" creator_version=\"2.0\"")
     message(FATAL_ERROR "The consumer printed an unexpected document:\n${step_output}")
 endif()
