@@ -266,14 +266,13 @@ void MainWindow::createPages()
     connect(m_titlePage, &ZelkonTitlePage::generateConfig, m_document, &DocumentController::generate);
 
     m_toolBar = addToolBar(QString());
-    QToolBar* toolBar = m_toolBar;
-    toolBar->setObjectName(QStringLiteral("MainToolBar"));
-    toolBar->setMovable(false);
-    toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    toolBar->addAction(m_newAction);
-    toolBar->addAction(m_openAction);
-    toolBar->addAction(m_saveAction);
-    toolBar->addSeparator();
+    m_toolBar->setObjectName(QStringLiteral("MainToolBar"));
+    m_toolBar->setMovable(false);
+    m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_toolBar->addAction(m_newAction);
+    m_toolBar->addAction(m_openAction);
+    m_toolBar->addAction(m_saveAction);
+    m_toolBar->addSeparator();
     auto* platformBox = new QWidget;
     auto* platformLayout = new QHBoxLayout(platformBox);
     platformLayout->setContentsMargins(8, 0, 8, 0);
@@ -283,7 +282,7 @@ void MainWindow::createPages()
     platformLayout->addWidget(m_standaloneCheck);
     m_titlePage->platformLabel()->show();
     m_titlePage->platformCombo()->show();
-    toolBar->addWidget(platformBox);
+    m_toolBar->addWidget(platformBox);
 
     m_summaryPage = new ZelkonSummaryPage(m_document->generatedDocument());
     connect(m_summaryPage, &ZelkonSummaryPage::generateConfig, m_document, &DocumentController::generate);
@@ -314,13 +313,11 @@ QWidget* MainWindow::createTitleArea()
 {
     // The actions' icons, shared: each fresh standard icon decodes its images again.
     m_titleOpenButton = new QPushButton(m_openAction->icon(), QString());
-    QPushButton* openButton = m_titleOpenButton;
-    openButton->setObjectName(QStringLiteral("TitleOpenButton"));
-    connect(openButton, &QPushButton::clicked, m_titlePage, &ZelkonTitlePage::loadConfig);
+    m_titleOpenButton->setObjectName(QStringLiteral("TitleOpenButton"));
+    connect(m_titleOpenButton, &QPushButton::clicked, m_titlePage, &ZelkonTitlePage::loadConfig);
     m_titleSaveButton = new QPushButton(m_saveAction->icon(), QString());
-    QPushButton* saveButton = m_titleSaveButton;
-    saveButton->setObjectName(QStringLiteral("TitleSaveButton"));
-    connect(saveButton, &QPushButton::clicked, m_titlePage, &ZelkonTitlePage::saveConfig);
+    m_titleSaveButton->setObjectName(QStringLiteral("TitleSaveButton"));
+    connect(m_titleSaveButton, &QPushButton::clicked, m_titlePage, &ZelkonTitlePage::saveConfig);
     m_currentFileLabel = new QLabel;
     m_currentFileLabel->setObjectName(QStringLiteral("CurrentFile"));
     m_currentFileLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -328,8 +325,8 @@ QWidget* MainWindow::createTitleArea()
 
     // One above the other, so that the page stays narrow enough for small screens.
     auto* buttons = new QVBoxLayout;
-    buttons->addWidget(openButton, 0, Qt::AlignLeft);
-    buttons->addWidget(saveButton, 0, Qt::AlignLeft);
+    buttons->addWidget(m_titleOpenButton, 0, Qt::AlignLeft);
+    buttons->addWidget(m_titleSaveButton, 0, Qt::AlignLeft);
     auto* area = new QWidget;
     auto* layout = new QVBoxLayout(area);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -464,10 +461,8 @@ void MainWindow::showPage(int index)
 {
     if (index < 0 || index >= PageCount)
         return;
-    if (index != TitlePage && index != SummaryPage)
-        ensureContainerPages();
     m_current = index;
-    WizardPage* shown = m_pages.at(index);
+    WizardPage* shown = page(index);
     shown->setupToShow();
     m_stack->setCurrentIndex(index);
     if (m_pageList->currentRow() != index) {
