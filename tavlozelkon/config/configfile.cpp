@@ -197,7 +197,12 @@ void ConfigFile::setIntValue(QString key, int n)
 
 void ConfigFile::setBoolValue(QString key, bool b)
 {
-    setValue(key, b ? QStringLiteral("true") : QStringLiteral("false"));
+    setValue(key, boolText(b));
+}
+
+QString ConfigFile::boolText(bool b)
+{
+    return b ? QStringLiteral("true") : QStringLiteral("false");
 }
 
 void ConfigFile::createTextNode(QString key, QString text)

@@ -61,6 +61,8 @@ public:
     void setValue(QString key, QString text);
     void setIntValue(QString key, int n);
     void setBoolValue(QString key, bool b);
+    // How the document stores a boolean: "true" or "false".
+    static QString boolText(bool b);
     void createTextNode(QString key, QString text);
 
     // Text and attributes of the cursor element.

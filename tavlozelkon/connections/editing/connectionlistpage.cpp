@@ -4,6 +4,7 @@
 #include "connectionnamedelegate.h"
 #include "editingmessagebox.h"
 
+#include "config/configfile.h"
 #include "connections/model/configatom.h"
 #include "connections/model/connectionkindred.h"
 #include "connections/model/connectionmodel.h"
@@ -170,7 +171,7 @@ void ConnectionListPage::deleteConnection(QString sessionId)
 
 void ConnectionListPage::changeKioskMode(int state)
 {
-    const QString enabled = state != Qt::Unchecked ? QStringLiteral("true") : QStringLiteral("false");
+    const QString enabled = ConfigFile::boolText(state != Qt::Unchecked);
     m_model.desktopConfig()->setProperty("kiosk_mode", enabled);
     if (m_model.containsConnections(QStringLiteral("cda")))
         m_model.connections(QStringLiteral("cda"))->setProperty("enable", enabled);

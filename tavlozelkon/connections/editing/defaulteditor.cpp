@@ -3,6 +3,7 @@
 #include "sessioneditorparts.h"
 #include "validator.h"
 
+#include "config/configfile.h"
 #include "connections/model/connectionkindred.h"
 #include "connections/model/connectionmodel.h"
 #include "connections/model/connectionsession.h"
@@ -132,5 +133,5 @@ void DefaultEditor::saveSession(ConnectionSession& session)
 {
     session.setProperty("name", m_nameEdit->text().simplified());
     session.setProperty("address", m_serverEdit->text());
-    session.setProperty("autostart", SessionEditorParts::boolText(m_autostart->isChecked()));
+    session.setProperty("autostart", ConfigFile::boolText(m_autostart->isChecked()));
 }

@@ -1,5 +1,6 @@
 #include "icaeditor.h"
 
+#include "config/configfile.h"
 #include "connections/model/connectionkindred.h"
 #include "connections/model/connectionmodel.h"
 #include "connections/model/connectionsession.h"
@@ -104,6 +105,6 @@ void IcaEditor::saveSession(ConnectionSession& session)
 {
     session.setProperty("name", m_name->text().simplified());
     session.setProperty("address", m_server->text());
-    session.setProperty("autostart", SessionEditorParts::boolText(m_autoStart->isChecked()));
+    session.setProperty("autostart", ConfigFile::boolText(m_autoStart->isChecked()));
     m_proxy->save(*session.atom(proxyAtom));
 }

@@ -1,5 +1,6 @@
 #include "parlixeditor.h"
 
+#include "config/configfile.h"
 #include "connections/model/connectionkindred.h"
 #include "connections/model/connectionmodel.h"
 #include "connections/model/connectionsession.h"
@@ -308,7 +309,7 @@ void ParlixEditor::saveSession(ConnectionSession& session)
 {
     session.setProperty("name", m_name->text().simplified());
     session.setProperty("region", QStringLiteral("WW"));
-    session.setProperty("autostart", SessionEditorParts::boolText(m_autoStart->isChecked()));
+    session.setProperty("autostart", ConfigFile::boolText(m_autoStart->isChecked()));
     // A key that is not in the tables selects nothing; the stored one is then kept.
     if (m_emulation->currentIndex() >= 0)
         session.setProperty("emulation", m_emulation->currentData());

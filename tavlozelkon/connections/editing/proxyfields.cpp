@@ -1,5 +1,6 @@
 #include "proxyfields.h"
 
+#include "config/configfile.h"
 #include "connections/model/configatom.h"
 #include "portvalidator.h"
 #include "sessioneditorparts.h"
@@ -75,7 +76,7 @@ void ProxyFields::load(const ConfigAtom* atom)
 
 void ProxyFields::save(ConfigAtom& atom) const
 {
-    atom.setProperty("enable", SessionEditorParts::boolText(m_enable->isChecked()));
+    atom.setProperty("enable", ConfigFile::boolText(m_enable->isChecked()));
     atom.setProperty("address", m_address->text());
     atom.setProperty("port", m_port->text());
 }

@@ -33,11 +33,6 @@ void setMinimumWidthFor(QLineEdit* edit, const QString& sample)
     edit->setMinimumWidth(QFontMetrics(edit->font()).horizontalAdvance(sample));
 }
 
-QString boolText(bool value)
-{
-    return value ? QStringLiteral("true") : QStringLiteral("false");
-}
-
 bool checkFilled(QWidget* editor, QLineEdit* field, const QString& label)
 {
     if (!field->text().isEmpty())

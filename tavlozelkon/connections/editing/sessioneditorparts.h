@@ -15,9 +15,6 @@ QHBoxLayout* headerRow(const QString& type, QLabel* header);
 // Gives a port edit room for the sample text in its own font.
 void setMinimumWidthFor(QLineEdit* edit, const QString& sample);
 
-// How the pages store check boxes.
-QString boolText(bool value);
-
 // True when the field holds any text (blanks count). An empty one gets the focus and a
 // white background, and a Critical box tells that the field named label is mandatory.
 bool checkFilled(QWidget* editor, QLineEdit* field, const QString& label);

@@ -1,5 +1,6 @@
 #include "webbrowsereditor.h"
 
+#include "config/configfile.h"
 #include "connections/model/connectionkindred.h"
 #include "connections/model/connectionmodel.h"
 #include "connections/model/connectionsession.h"
@@ -119,6 +120,6 @@ void WebBrowserEditor::saveSession(ConnectionSession& session)
 {
     session.setProperty("name", m_name->text().simplified());
     session.setProperty("url", m_url->text());
-    session.setProperty("autostart", SessionEditorParts::boolText(m_autoStart->isChecked()));
+    session.setProperty("autostart", ConfigFile::boolText(m_autoStart->isChecked()));
     m_proxy->save(*connectionModel().connections(browserType)->atom(generalSettings));
 }

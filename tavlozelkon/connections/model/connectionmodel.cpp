@@ -150,7 +150,7 @@ void writeFields(ConfigFile* config, const ConfigAtom* atom, const QList<Field>&
         if (field.kind == ValueKind::Int)
             text = QString::number(value.toInt(), 10);
         else if (field.kind == ValueKind::Bool && !boolAsText)
-            text = value.toBool() ? QStringLiteral("true") : QStringLiteral("false");
+            text = ConfigFile::boolText(value.toBool());
         else
             text = value.toString();
         config->createTextNode(field.name, text);
