@@ -1,13 +1,13 @@
 #include "configfile.h"
 
 #include "attributeorder.h"
-#include "connections/model/connectionmodel.h"
 #include "device/externaltool.h"
 #include "domwriter.h"
 #include "elementsearch.h"
 #include "messagehandler.h"
 #include "parseguard.h"
 #include "platform.h"
+#include "summaryhtml.h"
 #include "validationnotice.h"
 #include "xmlcharacters.h"
 
@@ -211,7 +211,21 @@ void ConfigFile::createTextNode(QString key, QString text)
     if (!m_currentNode.isElement())
         return;
     appendElement(key);
-    m_currentNode.appendChild(QDomDocument::createTextNode(text));
+    m_currentNode.appendChild(newTextNode(text));
+}
+
+QDomText ConfigFile::newTextNode(const QString& text)
+{
+    // createTextNode() gives every text node its own copy of the node name "#text"; the
+    // clones of one text node share it, and a large document holds a text node per value.
+    // The prototype belongs to one document object, which load() and clear() may replace.
+    if (m_textPrototypeDocument != impl) {
+        m_textPrototype = QDomDocument::createTextNode(QString());
+        m_textPrototypeDocument = impl;
+    }
+    QDomText node = m_textPrototype.cloneNode(false).toText();
+    node.setData(text);
+    return node;
 }
 
 // Text and attributes of the cursor element
@@ -473,94 +487,39 @@ QString ConfigFile::toFormattedString()
     const QDomNode root = findNode(RootName, firstChild());
     if (root.isNull())
         return QString();
-    // Everything is appended to this one string: pieces built apart and then added would
-    // each be a second copy of up to a whole section, and the summary of a large file is
+    // Everything is appended to one string: pieces built apart and then added would each
+    // be a second copy of up to a whole section, and the summary of a large file is
     // several times the file's size.
-    QString html;
+    SummaryHtml html(*this);
     for (QDomElement section = root.firstChildElement(); !section.isNull(); section = section.nextSiblingElement())
-        appendSection(html, section);
-    return html;
+        html.appendSection(section);
+    return html.take();
 }
 
 QString ConfigFile::elementToString(QDomElement& section)
 {
-    QString html;
-    appendSection(html, section);
-    return html;
+    SummaryHtml html(*this);
+    html.appendSection(section);
+    return html.take();
 }
 
 QString ConfigFile::sessionToString(QDomElement& element)
 {
-    QString html;
-    appendSession(html, element);
-    return html;
+    SummaryHtml html(*this);
+    html.appendSession(element);
+    return html.take();
 }
 
 QString ConfigFile::generalSettingsToString(QDomElement& element)
 {
-    QString html;
-    appendGeneralSettings(html, element);
-    return html;
+    SummaryHtml html(*this);
+    html.appendGeneralSettings(element);
+    return html.take();
 }
 
 QString ConfigFile::proxySettingsToString(QDomElement& element)
 {
-    QString html;
-    appendProxySettings(html, element);
-    return html;
-}
-
-// append() of one concatenation each, never += of one: that reserves exactly and turns a
-// large summary quadratic.
-void ConfigFile::appendSection(QString& html, const QDomElement& section)
-{
-    const QString tag = section.tagName();
-    // Empty sections are left out, except that a supported connection type is listed even
-    // without connections.
-    if (!section.hasChildNodes() && !ConnectionModel::sSupportedConnectionTypes().contains(tag, Qt::CaseSensitive))
-        return;
-
-    html.append(QLatin1String("<h3>") + sectionAlias(tag).toHtmlEscaped() + QLatin1String("</h3><table>"));
-    for (QDomElement child = section.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        const QString childTag = child.tagName();
-        if (childTag == QLatin1String("session")) {
-            appendSession(html, child);
-        } else if (childTag == QLatin1String("general_settings")) {
-            appendGeneralSettings(html, child);
-        } else {
-            QString value = child.firstChild().nodeValue();
-            if (childTag == QLatin1String("passphrase") || childTag == QLatin1String("password"))
-                value = QStringLiteral("********");
-            html.append(QLatin1String("<tr><td width =\"50%\">") + sectionAlias(childTag).toHtmlEscaped()
-                        + QLatin1String("</td><td>") + value.toHtmlEscaped() + QLatin1String("</td></tr>"));
-        }
-    }
-    html.append(QLatin1String("</table>"));
-}
-
-void ConfigFile::appendSession(QString& html, const QDomElement& element)
-{
-    // Records are shown as stored: a session's password is not masked.
-    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        if (child.tagName() == QLatin1String("proxy")) {
-            appendProxySettings(html, child);
-        } else {
-            html.append(QLatin1String("<tr><td width=\"10%\"/><td width =\"50%\">")
-                        + sectionAlias(child.tagName()).toHtmlEscaped() + QLatin1String("</td><td>")
-                        + child.text().toHtmlEscaped() + QLatin1String("</td></tr>"));
-        }
-    }
-    html.append(QLatin1String("<tr/>"));
-}
-
-void ConfigFile::appendGeneralSettings(QString& html, const QDomElement& element)
-{
-    html.append(QLatin1String("<tr><td width=\"10%\"/><td width =\"50%\">General Settings</td></tr>"));
-    appendSession(html, element);
-}
-
-void ConfigFile::appendProxySettings(QString& html, const QDomElement& element)
-{
-    html.append(QLatin1String("<tr><td width=\"10%\"/><td width =\"50%\">Proxy</td></tr>"));
-    appendSession(html, element);
+    SummaryHtml html(*this);
+    html.appendProxySettings(element);
+    return html.take();
 }

@@ -120,10 +120,7 @@ private:
     // cursor must be an element.
     void appendElement(const QString& name);
     void createSectionAliasList();
-    void appendSection(QString& html, const QDomElement& section);
-    void appendSession(QString& html, const QDomElement& element);
-    void appendGeneralSettings(QString& html, const QDomElement& element);
-    void appendProxySettings(QString& html, const QDomElement& element);
+    QDomText newTextNode(const QString& text);
 
     QDomNode m_currentNode;
     bool m_valid = false;
@@ -138,4 +135,6 @@ private:
     // Kept so that saving writes attributes in a stable order (see AttributeOrder).
     std::unique_ptr<AttributeOrder> m_attributeOrder;
     std::unique_ptr<ElementSearch> m_search;
+    QDomText m_textPrototype;
+    const void* m_textPrototypeDocument = nullptr;
 };

@@ -1,5 +1,6 @@
 #include "config/configfile.h"
 #include "devicetree.h"
+#include "markingtranslator.h"
 
 #include <QtTest>
 
@@ -160,6 +161,28 @@ private slots:
             R"(<h3>Network</h3><table><tr><td width ="50%">Password</td><td>********</td></tr></table>)");
         QCOMPARE(config.toFormattedString(), expected);
         QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/rdp"));
+    }
+
+    // A session value is all of its text, whatever nodes hold it; each label is looked up
+    // anew for every rendering.
+    void summaryOfSessionValues()
+    {
+        ConfigFile config;
+        setXml(config,
+               "<zelkon><rdp><session><name>A<!--x-->B<![CDATA[<C>]]></name><address/>"
+               "<autostart><x>in</x>ner</autostart></session></rdp></zelkon>");
+        const QString row = QStringLiteral(R"(<tr><td width="10%"/><td width ="50%">%1</td><td>%2</td></tr>)");
+        const QString expected = QStringLiteral("<h3>RDP</h3><table>") + row.arg("Name", "AB&lt;C&gt;")
+            + row.arg("Address", "") + row.arg("Autostart", "inner") + QStringLiteral("<tr/></table>");
+        QCOMPARE(config.toFormattedString(), expected);
+
+        MarkingTranslator marking;
+        QCoreApplication::installTranslator(&marking);
+        const QString marked = config.toFormattedString();
+        QCoreApplication::removeTranslator(&marking);
+        QVERIFY2(marked.contains(QStringLiteral("<h3>") + MarkingTranslator::mark("RDP") + "</h3>"),
+                 qPrintable(marked));
+        QCOMPARE(config.toFormattedString(), expected);
     }
 };
 
