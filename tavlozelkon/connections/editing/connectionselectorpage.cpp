@@ -6,6 +6,7 @@
 #include "connections/model/connectionmodel.h"
 
 #include <QEvent>
+#include <QIcon>
 #include <QPushButton>
 #include <QVBoxLayout>
 

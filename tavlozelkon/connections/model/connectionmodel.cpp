@@ -421,15 +421,6 @@ QString ConnectionModel::sGetConnectionTypeName(const QString& key)
     return type ? translated(type->displayName) : QString();
 }
 
-QIcon ConnectionModel::sGetConnectionTypeIcon(const QString& key, int size)
-{
-    const QString name = QStringLiteral(":/%1Icon%2").arg(key).arg(size);
-    QIcon icon(name);
-    if (icon.isNull())
-        icon = QIcon(name + QLatin1String(".svg"));
-    return icon;
-}
-
 bool ConnectionModel::sIsConnectionTypeAvailable(const QString& key)
 {
     const ConnectionType* type = findConnectionType(key);

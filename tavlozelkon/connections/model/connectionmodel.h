@@ -2,7 +2,6 @@
 
 #include "tavlozelkon_lib_export.h"
 
-#include <QIcon>
 #include <QList>
 #include <QMap>
 #include <QObject>
@@ -15,6 +14,7 @@ class ConfigAtom;
 class ConfigFile;
 class ConnectionKindred;
 class ConnectionSession;
+class QIcon;
 
 /*
  * All remote connections of the configuration being edited, grouped by connection type
@@ -61,6 +61,8 @@ public:
     static QList<QPair<QString, QString>> sCategorizedConnectionTypes();
     static QStringList sSupportedConnectionTypes();
     static QString sGetConnectionTypeName(const QString& key);
+    // Defined in the widget library, beside the icons it loads: a process without a GUI
+    // has no use for icons and need not load Qt's GUI module for them.
     static QIcon sGetConnectionTypeIcon(const QString& key, int size);
     static bool sIsConnectionTypeAvailable(const QString& key);
 

@@ -4,6 +4,7 @@
 #include "connections/model/connectionsession.h"
 #include "devicetree.h"
 
+#include <QIcon>
 #include <QUuid>
 #include <QtTest>
 #include <memory>
