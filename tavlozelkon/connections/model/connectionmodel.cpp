@@ -140,7 +140,8 @@ void readFields(ConfigFile* config, ConfigAtom* atom, const QList<Field>& fields
 // Writes the fields below the cursor, which must be an element just added and still
 // empty: each field is then new there, so it is appended without first searching for it
 // (as setValue() would, to the same effect). Text fields take the variant's text, so a
-// boolean stored in one is written as "true"/"false", as setBoolValue() would write it.
+// boolean stored in one is written as "true"/"false", as setBoolValue() would write it
+// (and from the same two strings, rather than a new one per value).
 // A missing atom writes the empty values.
 void writeFields(ConfigFile* config, const ConfigAtom* atom, const QList<Field>& fields, bool boolAsText)
 {
@@ -149,7 +150,7 @@ void writeFields(ConfigFile* config, const ConfigAtom* atom, const QList<Field>&
         QString text;
         if (field.kind == ValueKind::Int)
             text = QString::number(value.toInt(), 10);
-        else if (field.kind == ValueKind::Bool && !boolAsText)
+        else if ((field.kind == ValueKind::Bool && !boolAsText) || value.type() == QVariant::Bool)
             text = ConfigFile::boolText(value.toBool());
         else
             text = value.toString();
