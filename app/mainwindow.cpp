@@ -7,6 +7,7 @@
 #include "languagemanager.h"
 #include "languagemenu.h"
 #include "pendingchangesdialog.h"
+#include "standardiconengine.h"
 
 #include "config/configfile.h"
 #include "device/externaltool.h"
@@ -133,16 +134,15 @@ QList<ConfigPage*> MainWindow::containerPages() const
 
 void MainWindow::createActions()
 {
-    QStyle* style = QApplication::style();
-    m_newAction = new QAction(style->standardIcon(QStyle::SP_FileIcon), QString(), this);
+    m_newAction = new QAction(StandardIconEngine::icon(QStyle::SP_FileIcon), QString(), this);
     m_newAction->setShortcut(QKeySequence::New);
     connect(m_newAction, &QAction::triggered, this, &MainWindow::newDocument);
 
-    m_openAction = new QAction(style->standardIcon(QStyle::SP_DialogOpenButton), QString(), this);
+    m_openAction = new QAction(StandardIconEngine::icon(QStyle::SP_DialogOpenButton), QString(), this);
     m_openAction->setShortcut(QKeySequence::Open);
     connect(m_openAction, &QAction::triggered, this, &MainWindow::open);
 
-    m_saveAction = new QAction(style->standardIcon(QStyle::SP_DialogSaveButton), QString(), this);
+    m_saveAction = new QAction(StandardIconEngine::icon(QStyle::SP_DialogSaveButton), QString(), this);
     m_saveAction->setShortcut(QKeySequence::Save);
     connect(m_saveAction, &QAction::triggered, this, &MainWindow::save);
 
@@ -194,6 +194,9 @@ void MainWindow::createWidgets()
     m_headerDescription->setWordWrap(true);
     m_headerDescription->setTextFormat(Qt::RichText);
     m_header = new QWidget;
+    // Hidden until a page that has one is shown: sizing a hidden header costs its fonts
+    // nothing, and the first page shown, the title page, has none.
+    m_header->hide();
     auto* headerLayout = new QVBoxLayout(m_header);
     headerLayout->setContentsMargins(0, 0, 0, 6);
     headerLayout->addWidget(m_headerTitle);
@@ -208,6 +211,7 @@ void MainWindow::createWidgets()
     m_emptyHint->setAlignment(Qt::AlignCenter);
     m_emptyHint->setWordWrap(true);
     m_emptyHint->setEnabled(false);
+    m_emptyHint->hide();
 
     m_stack = new QStackedWidget;
     m_stack->setObjectName(QStringLiteral("PageStack"));
