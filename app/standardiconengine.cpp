@@ -9,18 +9,35 @@ namespace {
 // The square sizes Qt ships for each of these icons, smallest first.
 const int Extents[] = { 16, 32, 128 };
 
-QString stemOf(QStyle::StandardPixmap which)
+struct Source
+{
+    QString stem; // of the images Qt ships
+    QString themeName; // of the icon the style takes from an icon theme instead
+};
+
+Source sourceOf(QStyle::StandardPixmap which)
 {
     switch (which) {
     case QStyle::SP_FileIcon:
-        return QStringLiteral("file");
+        return { QStringLiteral("file"), QStringLiteral("text-x-generic") };
     case QStyle::SP_DialogOpenButton:
-        return QStringLiteral("standardbutton-open");
+        return { QStringLiteral("standardbutton-open"), QStringLiteral("folder-open") };
     case QStyle::SP_DialogSaveButton:
-        return QStringLiteral("standardbutton-save");
+        return { QStringLiteral("standardbutton-save"), QStringLiteral("document-save") };
     default:
-        return QString();
+        return {};
     }
+}
+
+// Qt's own styles draw these icons from its images unless the icon theme has them; other
+// styles may draw their own.
+bool styleDrawsShippedImages(const Source& source)
+{
+    const QString style = QApplication::style()->objectName();
+    if (style != QLatin1String("fusion") && style != QLatin1String("windows"))
+        return false;
+    const bool themed = QGuiApplication::desktopSettingsAware() && !QIcon::themeName().isEmpty();
+    return !themed || !QIcon::hasThemeIcon(source.themeName);
 }
 
 // The extent an icon holding all of Extents draws a request of this size from: the
@@ -38,12 +55,11 @@ int chosenExtent(const QSize& size)
 
 QIcon StandardIconEngine::icon(QStyle::StandardPixmap which)
 {
-    const QString stem = stemOf(which);
-    // With an icon theme the style's icon comes from it, and is read lazily already.
-    const bool themed = QGuiApplication::desktopSettingsAware() && !QIcon::themeName().isEmpty();
-    if (stem.isEmpty() || themed || !QFile::exists(StandardIconEngine(stem).imagePath(Extents[0])))
+    const Source source = sourceOf(which);
+    if (source.stem.isEmpty() || !styleDrawsShippedImages(source)
+        || !QFile::exists(StandardIconEngine(source.stem).imagePath(Extents[0])))
         return QApplication::style()->standardIcon(which);
-    return QIcon(new StandardIconEngine(stem));
+    return QIcon(new StandardIconEngine(source.stem));
 }
 
 StandardIconEngine::StandardIconEngine(const QString& stem)

@@ -11,8 +11,8 @@
  * several milliseconds. Each request is answered from the image the style's icon would
  * have chosen, so the pixels are the same.
  *
- * Where the style takes its icons from a desktop icon theme, or Qt lacks the images,
- * icon() returns the style's icon itself.
+ * Where the style takes the icon from the desktop's icon theme, is not one of Qt's own,
+ * or Qt lacks the images, icon() returns the style's icon itself.
  */
 class StandardIconEngine : public QIconEngine
 {

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QTemporaryDir>
 #include <QtTest>
 
 // The window's new, open and save icons, read one size at a time, must look exactly like
@@ -14,6 +15,8 @@ private slots:
     void drawsWhatTheStyleDraws_data();
     void drawsWhatTheStyleDraws();
     void otherIconsAreTheStyles();
+    void followsTheIconTheme_data();
+    void followsTheIconTheme();
 };
 
 namespace {
@@ -73,6 +76,47 @@ void TestStandardIconEngine::otherIconsAreTheStyles()
     const QIcon icon = StandardIconEngine::icon(QStyle::SP_TrashIcon);
     QVERIFY(!icon.isNull());
     QCOMPARE(icon.pixmap(32).toImage(), QApplication::style()->standardIcon(QStyle::SP_TrashIcon).pixmap(32).toImage());
+}
+
+void TestStandardIconEngine::followsTheIconTheme_data()
+{
+    QTest::addColumn<QStringList>("themeIcons");
+    QTest::addColumn<bool>("fromTheme");
+    // As on a desktop whose theme draws these (GNOME's, KDE's), and as under the plain
+    // "hicolor" theme of an X server without a desktop, which lacks them.
+    QTest::newRow("theme has them") << QStringList { "text-x-generic", "folder-open", "document-save" } << true;
+    QTest::newRow("theme lacks them") << QStringList { "edit-copy" } << false;
+}
+
+void TestStandardIconEngine::followsTheIconTheme()
+{
+    QFETCH(QStringList, themeIcons);
+    QFETCH(bool, fromTheme);
+    QTemporaryDir dir;
+    QVERIFY(QDir(dir.path()).mkpath(QStringLiteral("test/16x16/actions")));
+    QFile index(dir.filePath(QStringLiteral("test/index.theme")));
+    QVERIFY(index.open(QIODevice::WriteOnly));
+    index.write("[Icon Theme]\nName=Test\nDirectories=16x16/actions\n\n[16x16/actions]\nSize=16\nType=Fixed\n");
+    index.close();
+    QImage image(16, 16, QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    for (const QString& name : themeIcons)
+        QVERIFY(image.save(dir.filePath(QStringLiteral("test/16x16/actions/%1.png").arg(name))));
+
+    const QStringList oldPaths = QIcon::themeSearchPaths();
+    const QString oldTheme = QIcon::themeName();
+    QIcon::setThemeSearchPaths({ dir.path() });
+    QIcon::setThemeName(QStringLiteral("test"));
+    for (QStyle::StandardPixmap pixmap :
+         { QStyle::SP_FileIcon, QStyle::SP_DialogOpenButton, QStyle::SP_DialogSaveButton }) {
+        const QIcon style = QApplication::style()->standardIcon(pixmap);
+        const QIcon lazy = StandardIconEngine::icon(pixmap);
+        QCOMPARE(!style.name().isEmpty(), fromTheme);
+        QCOMPARE(lazy.name(), style.name());
+        QCOMPARE(lazy.pixmap(24).toImage(), style.pixmap(24).toImage());
+    }
+    QIcon::setThemeName(oldTheme);
+    QIcon::setThemeSearchPaths(oldPaths);
 }
 
 QTEST_MAIN(TestStandardIconEngine)
