@@ -62,7 +62,7 @@ QString nativePath(const QString& path)
 
 // The title and summary pages carry their own title label. A font of its own rather than
 // a style sheet: a sheet on the page stack would route every page's painting through the
-// style sheet machinery, which costs the window's first paint several milliseconds.
+// style sheet machinery, which costs the window's first paint a few milliseconds.
 void emphasizeTitle(QWidget* page)
 {
     auto* title = page->findChild<QLabel*>(QStringLiteral("Title"));
