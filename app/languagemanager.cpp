@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QRegularExpression>
 #include <QTranslator>
 
 namespace {
@@ -43,14 +42,19 @@ LanguageManager* LanguageManager::instance()
 
 QStringList LanguageManager::availableLanguages()
 {
-    initResources();
-    QStringList languages { SourceLanguage };
-    const QStringList files
-        = QDir(CatalogueDir)
-              .entryList({ CataloguePrefix + QLatin1Char('*') + CatalogueSuffix }, QDir::Files, QDir::Name);
-    for (const QString& file : files)
-        languages.append(
-            file.mid(CataloguePrefix.size(), file.size() - CataloguePrefix.size() - CatalogueSuffix.size()));
+    // The catalogues are compiled in: the list is made once, and without a wildcard
+    // filter, whose pattern would be compiled on every start.
+    static const QStringList languages = [] {
+        initResources();
+        QStringList found { SourceLanguage };
+        const QStringList files = QDir(CatalogueDir).entryList(QDir::Files, QDir::Name);
+        for (const QString& file : files) {
+            if (file.startsWith(CataloguePrefix) && file.endsWith(CatalogueSuffix))
+                found.append(
+                    file.mid(CataloguePrefix.size(), file.size() - CataloguePrefix.size() - CatalogueSuffix.size()));
+        }
+        return found;
+    }();
     return languages;
 }
 
@@ -68,8 +72,11 @@ QString LanguageManager::nativeName(const QString& language)
 
 QString LanguageManager::matchLanguage(const QString& code)
 {
-    static const QRegularExpression separator(QStringLiteral("[-_]"));
-    const QString wanted = code.section(separator, 0, 0).toLower();
+    // The language is what comes before the region; split by hand, as a pattern would
+    // be compiled on every start.
+    QString wanted = code.toLower();
+    for (const QChar separator : { QLatin1Char('-'), QLatin1Char('_') })
+        wanted = wanted.section(separator, 0, 0);
     return availableLanguages().contains(wanted) ? wanted : QString();
 }
 

@@ -252,6 +252,11 @@ void benchStartup(int runs)
     out() << "Start to first paint, offscreen, median of " << runs << " runs: bare Qt widgets window "
           << milliseconds(bareMedian) << ", wizard " << milliseconds(wizardMedian) << "; ratio "
           << QString::number(wizardMedian / bareMedian, 'f', 2) << "x\n";
+    // On a busy machine the fastest runs are the ones least disturbed by everything else.
+    const double bareFastest = *std::min_element(bare.cbegin(), bare.cend());
+    const double wizardFastest = *std::min_element(wizard.cbegin(), wizard.cend());
+    out() << "Fastest of " << runs << " runs: bare Qt widgets window " << milliseconds(bareFastest) << ", wizard "
+          << milliseconds(wizardFastest) << "; ratio " << QString::number(wizardFastest / bareFastest, 'f', 2) << "x\n";
 }
 
 void printUsage()

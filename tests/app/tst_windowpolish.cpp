@@ -10,6 +10,7 @@
 #include "device/machineroot.h"
 #include "pages/configpage.h"
 #include "pages/zelkonsummarypage.h"
+#include "pages/zelkontitlepage.h"
 
 #include "accordion.h"
 #include "accordionitem.h"
@@ -102,6 +103,7 @@ private slots:
     void busyWhileTheDeviceIsAsked();
     void saveAsStartsFromTheCurrentFile();
     void windowHasItsIcon();
+    void pageTitlesStandOut();
     void emptySummaryExplainsItself();
     void emptyPageHintOnlyWhereFramesAreHidden();
     void applyFailureNamesTheFile();
@@ -336,6 +338,21 @@ void TestWindowPolish::windowHasItsIcon()
     QVERIFY(!m_window->windowIcon().isNull());
     QVERIFY(!m_window->windowIcon().pixmap(48, 48).isNull());
     QVERIFY(!QIcon(QStringLiteral(":/zelkon/zelkon.svg")).pixmap(16, 16).isNull());
+}
+
+// The title and summary pages name themselves in 22 point bold, over the library's own
+// size, and no other page's labels are touched.
+void TestWindowPolish::pageTitlesStandOut()
+{
+    for (QWidget* page :
+         { static_cast<QWidget*>(m_window->titlePage()), static_cast<QWidget*>(m_window->summaryPage()) }) {
+        const QFont font = page->findChild<QLabel*>(QStringLiteral("Title"))->font();
+        QCOMPARE(font.pointSize(), 22);
+        QVERIFY(font.bold());
+    }
+    const QLabel* body = m_window->titlePage()->findChild<QLabel*>(QStringLiteral("Body"));
+    QVERIFY(body->font().pointSizeF() < 22);
+    QVERIFY(!body->font().bold());
 }
 
 void TestWindowPolish::emptySummaryExplainsItself()
