@@ -13,21 +13,18 @@ bool isBlank(const QString& text)
 {
     return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.isSpace(); });
 }
+// A copy of the reader's text of exactly its size. QStringRef::toString() would share the
+// reader's whole buffer, capacity and all, when the text fills it.
+QString copied(const QStringRef& text)
+{
+    return text.isNull() ? QString() : QString(text.unicode(), text.size());
+}
 } // namespace
 
 DomBuilder::DomBuilder(AttributeOrder& order, const QByteArray& content)
     : m_order(order)
+    , m_content(content)
 {
-    // The markup in question is ASCII; dropping zero bytes finds it in UTF-16 too, and any
-    // false alarm only sends the file to the DOM parser.
-    QByteArray declaration = content.left(512);
-    declaration.replace('\0', QByteArray());
-    const int end = declaration.indexOf("?>");
-    m_declaresStandalone = end > 0 && declaration.left(end).contains("standalone");
-    m_hasCarriageReturns = content.contains('\r');
-    m_hasCharacterReferences = content.contains("&#") || content.contains(QByteArray("&\0#", 3))
-        || content.contains(QByteArray("\0&\0#", 4));
-
     m_order.clear();
     // The prototype must come from this document: a node knows its owner only by a pointer
     // that does not keep the owner alive.
@@ -52,7 +49,7 @@ void DomBuilder::token(const QXmlStreamReader& reader)
         // in single quotes. Qt 5's stream reader cannot tell standalone="no" from none.
         if (reader.documentVersion().isEmpty())
             break;
-        if (m_declaresStandalone && !reader.isStandaloneDocument()) {
+        if (!reader.isStandaloneDocument() && declaresStandalone()) {
             giveUp();
             break;
         }
@@ -71,21 +68,21 @@ void DomBuilder::token(const QXmlStreamReader& reader)
     case QXmlStreamReader::Characters:
         if (reader.isCDATA()) {
             flushText();
-            const QString text = reader.text().toString();
+            const QString text = copied(reader.text());
             if (differsFromParser(text)) {
                 giveUp();
                 break;
             }
             m_parent.appendChild(m_document.createCDATASection(text));
         } else if (m_text.isNull()) {
-            m_text = reader.text().toString();
+            m_text = copied(reader.text());
         } else {
             m_text += reader.text();
         }
         break;
     case QXmlStreamReader::Comment: {
         flushText();
-        const QString text = reader.text().toString();
+        const QString text = copied(reader.text());
         if (differsFromParser(text)) {
             giveUp();
             break;
@@ -95,7 +92,7 @@ void DomBuilder::token(const QXmlStreamReader& reader)
     }
     case QXmlStreamReader::ProcessingInstruction: {
         flushText();
-        QString data = reader.processingInstructionData().toString();
+        QString data = copied(reader.processingInstructionData());
         if (differsFromParser(data)) {
             giveUp();
             break;
@@ -104,7 +101,7 @@ void DomBuilder::token(const QXmlStreamReader& reader)
         if (data.isNull())
             data = QStringLiteral("");
         m_parent.appendChild(
-            m_document.createProcessingInstruction(reader.processingInstructionTarget().toString(), data));
+            m_document.createProcessingInstruction(copied(reader.processingInstructionTarget()), data));
         break;
     }
     case QXmlStreamReader::DTD:
@@ -132,7 +129,7 @@ void DomBuilder::startElement(const QXmlStreamReader& reader, bool noted)
         // The parser keeps tabs and line ends in attribute values as they are; the stream
         // reader makes spaces of them, so a space may have been either.
         const QStringRef value = attribute.value();
-        if (value.contains(QLatin1Char(' ')) || differsFromParser(value.toString())) {
+        if (value.contains(QLatin1Char(' ')) || differsFromParser(value)) {
             giveUp();
             return;
         }
@@ -141,7 +138,7 @@ void DomBuilder::startElement(const QXmlStreamReader& reader, bool noted)
     // As the parser makes them: in no namespace, so with a local name, unlike createElement().
     QDomElement element = m_document.createElementNS(QString(), sharedName(reader.name()));
     for (const QXmlStreamAttribute& attribute : attributes)
-        element.setAttributeNS(QString(), sharedName(attribute.name()), attribute.value().toString());
+        element.setAttributeNS(QString(), sharedName(attribute.name()), copied(attribute.value()));
     m_parent.appendChild(element);
     m_parent = element;
     if (noted)
@@ -171,17 +168,55 @@ QString DomBuilder::sharedName(const QStringRef& name)
     const auto found = m_names.constFind(QString::fromRawData(name.unicode(), name.size()));
     if (found != m_names.cend())
         return *found;
-    return *m_names.insert(name.toString());
+    return *m_names.insert(copied(name));
 }
 
-bool DomBuilder::differsFromParser(const QString& text) const
+bool DomBuilder::differsFromParser(QStringView text) const
 {
     // The parser keeps "\r\n" and "\r" as they are, where the stream reader makes "\n" of
     // them; and it cuts a character reference beyond 0xFFFF to 16 bits.
-    const auto differs = [this](QChar c) {
-        return (m_hasCarriageReturns && c == QLatin1Char('\n')) || (m_hasCharacterReferences && c.isSurrogate());
-    };
-    return (m_hasCarriageReturns || m_hasCharacterReferences) && std::any_of(text.cbegin(), text.cend(), differs);
+    for (const QChar c : text) {
+        if (c == QLatin1Char('\n') && hasCarriageReturns())
+            return true;
+        if (c.isSurrogate() && hasCharacterReferences())
+            return true;
+    }
+    return false;
+}
+
+// The markup asked about below is ASCII. In UTF-16 its characters are separated by zero
+// bytes, which are skipped; a false alarm only sends the file to the DOM parser.
+
+bool DomBuilder::hasCarriageReturns() const
+{
+    if (m_carriageReturns == Fact::Unknown)
+        m_carriageReturns = m_content.contains('\r') ? Fact::Present : Fact::Absent;
+    return m_carriageReturns == Fact::Present;
+}
+
+bool DomBuilder::hasCharacterReferences() const
+{
+    if (m_characterReferences == Fact::Unknown) {
+        m_characterReferences = Fact::Absent;
+        for (int i = m_content.indexOf('&'); i >= 0; i = m_content.indexOf('&', i + 1)) {
+            int next = i + 1;
+            while (next < m_content.size() && next < i + 3 && m_content.at(next) == '\0')
+                ++next;
+            if (next < m_content.size() && m_content.at(next) == '#') {
+                m_characterReferences = Fact::Present;
+                break;
+            }
+        }
+    }
+    return m_characterReferences == Fact::Present;
+}
+
+bool DomBuilder::declaresStandalone() const
+{
+    QByteArray declaration = m_content.left(512);
+    declaration.replace('\0', QByteArray());
+    const int end = declaration.indexOf("?>");
+    return end > 0 && declaration.left(end).contains("standalone");
 }
 
 void DomBuilder::giveUp()

@@ -6,6 +6,7 @@
 #include <QList>
 #include <QSet>
 #include <QString>
+#include <QStringView>
 
 class AttributeOrder;
 
@@ -23,7 +24,7 @@ class DomBuilder : public ParseGuard::Listener
 {
 public:
     // content is what the pass reads: a few facts about its bytes decide what the stream
-    // reader cannot tell.
+    // reader cannot tell. It must outlive the builder.
     DomBuilder(AttributeOrder& order, const QByteArray& content);
 
     void token(const QXmlStreamReader& reader) override;
@@ -39,13 +40,18 @@ private:
     void flushText();
     // Whether the DOM parser would have kept text differently from how the stream reader
     // gives it.
-    bool differsFromParser(const QString& text) const;
+    bool differsFromParser(QStringView text) const;
+    bool hasCarriageReturns() const;
+    bool hasCharacterReferences() const;
+    bool declaresStandalone() const;
     QString sharedName(const QStringRef& name);
 
     AttributeOrder& m_order;
-    bool m_declaresStandalone = false;
-    bool m_hasCarriageReturns = false;
-    bool m_hasCharacterReferences = false;
+    const QByteArray& m_content;
+    // Learnt from the bytes when first needed: most files never need them.
+    enum class Fact { Unknown, Absent, Present };
+    mutable Fact m_carriageReturns = Fact::Unknown;
+    mutable Fact m_characterReferences = Fact::Unknown;
     bool m_gaveUp = false;
     QDomDocument m_document;
     QDomText m_textPrototype;
