@@ -5,6 +5,7 @@
 #include "config/domwriter.h"
 #include "config/parseguard.h"
 #include "filecontents.h"
+#include "platform.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -112,6 +113,13 @@ private:
     }
 
 private slots:
+    void initTestCase()
+    {
+        // Loading on a device would ask the settings tool first.
+        Platform::instance()->setTarget(Platform::Lunvex);
+        Platform::instance()->setStandalone(true);
+    }
+
     void sameAsQt_data()
     {
         QTest::addColumn<QByteArray>("content");
@@ -251,6 +259,51 @@ private slots:
         QDomElement copy = config.documentElement().firstChildElement().cloneNode(true).toElement();
         config.documentElement().appendChild(copy);
         QVERIFY(config.toString().contains(QLatin1String("<s p=\"2\" q=\"1\"/>")));
+    }
+
+    // What a load found out is told to the caller, and a refused file leaves the document.
+    void loadTellsWhy_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<int>("verdict");
+        QTest::addColumn<bool>("blank");
+        QTest::addColumn<bool>("kept");
+        QTest::newRow("loads") << QByteArray("<zelkon><a>1</a></zelkon>") << int(ParseGuard::Verdict::Accepted) << false
+                               << false;
+        QTest::newRow("blank") << QByteArray(" \n\t") << int(ParseGuard::Verdict::NotWellFormed) << true << false;
+        QTest::newRow("not well-formed") << QByteArray("<zelkon><a></zelkon>")
+                                         << int(ParseGuard::Verdict::NotWellFormed) << false << false;
+        QTest::newRow("too large") << QByteArray(int(ParseGuard::MaxFileBytes) + 1, ' ')
+                                   << int(ParseGuard::Verdict::TooLarge) << false << true;
+    }
+
+    void loadTellsWhy()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(int, verdict);
+        QFETCH(bool, blank);
+        QFETCH(bool, kept);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("file.tavlocfg"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        file.close();
+
+        ConfigFile config;
+        config.setValue(QStringLiteral("kept"), QStringLiteral("yes"));
+        ConfigReader::Result result;
+        QCOMPARE(config.load(path, &result), verdict == int(ParseGuard::Verdict::Accepted));
+        QVERIFY(result.opened);
+        QCOMPARE(int(result.parse.verdict), verdict);
+        QCOMPARE(result.blank, blank);
+        config.setCurrentNodeAsRoot();
+        QCOMPARE(config.value(QStringLiteral("kept")) == QLatin1String("yes"), kept);
+        if (verdict == int(ParseGuard::Verdict::NotWellFormed))
+            QVERIFY(config.documentElement().isNull());
+
+        QVERIFY(!config.load(dir.filePath(QStringLiteral("missing.tavlocfg")), &result));
+        QVERIFY(!result.opened);
+        QVERIFY(!result.openError.isEmpty());
     }
 
     // Names are shared by every element of one name; text nodes share one "#text".
