@@ -164,11 +164,14 @@ void DomBuilder::flushText()
 
 QString DomBuilder::sharedName(const QStringRef& name)
 {
-    // Looked up without copying the reader's text; copied once per distinct name.
-    const auto found = m_names.constFind(QString::fromRawData(name.unicode(), name.size()));
+    // Looked up without copying the reader's text; copied once per distinct name. The key
+    // views the value's characters, which the value keeps where they are.
+    const auto found = m_names.constFind(QStringView(name));
     if (found != m_names.cend())
         return *found;
-    return *m_names.insert(copied(name));
+    const QString copy = copied(name);
+    m_names.insert(QStringView(copy), copy);
+    return copy;
 }
 
 bool DomBuilder::differsFromParser(QStringView text) const

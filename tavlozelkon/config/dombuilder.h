@@ -3,8 +3,8 @@
 #include "parseguard.h"
 
 #include <QDomDocument>
+#include <QHash>
 #include <QList>
-#include <QSet>
 #include <QString>
 #include <QStringView>
 
@@ -58,7 +58,7 @@ private:
     QDomNode m_parent;
     // Character data up to the next markup, which the DOM parser makes one text node of.
     QString m_text;
-    QSet<QString> m_names;
+    QHash<QStringView, QString> m_names;
     // The elements the order noted, in document order.
     QList<QDomElement> m_noted;
 };
