@@ -97,7 +97,7 @@ void DomBuilder::token(const QXmlStreamReader& reader)
             giveUp();
             break;
         }
-        // The parser gives an instruction without data empty data, not none.
+        // Qt's parser gives an instruction without data an empty text, not a null one.
         if (data.isNull())
             data = QStringLiteral("");
         m_parent.appendChild(
@@ -149,11 +149,11 @@ void DomBuilder::flushText()
 {
     if (m_text.isNull())
         return;
-    if (!isBlank(m_text) && differsFromParser(m_text)) {
-        giveUp();
-        return;
-    }
     if (!isBlank(m_text)) {
+        if (differsFromParser(m_text)) {
+            giveUp();
+            return;
+        }
         // A clone shares the prototype's "#text" name, which createTextNode() allocates anew.
         QDomText text = m_textPrototype.cloneNode(false).toText();
         text.setData(m_text);
