@@ -3,6 +3,8 @@
 #include "attributeorder.h"
 
 #include <QByteArray>
+#include <QRegularExpression>
+#include <QVarLengthArray>
 #include <QXmlStreamReader>
 #include <algorithm>
 
@@ -34,22 +36,23 @@ DomBuilder::DomBuilder(AttributeOrder& order, const QByteArray& content)
 
 void DomBuilder::token(const QXmlStreamReader& reader)
 {
-    if (reader.tokenType() == QXmlStreamReader::StartElement) {
-        // Noted also after giving up, for pairing with the DOM parser's document.
-        const bool noted = m_order.noteElement(reader);
-        if (!m_gaveUp)
-            startElement(reader, noted);
-        return;
-    }
+    const QXmlStreamReader::TokenType type = reader.tokenType();
+    // Noted also after giving up, for pairing with the DOM parser's document.
+    const bool noted = type == QXmlStreamReader::StartElement && m_order.noteElement(reader);
     if (m_gaveUp)
         return;
-    switch (reader.tokenType()) {
+    if (type != QXmlStreamReader::Characters || reader.isCDATA()) {
+        flushText();
+        if (m_gaveUp)
+            return;
+    }
+    switch (type) {
     case QXmlStreamReader::StartDocument: {
         // The DOM parser keeps the declaration as an instruction whose data it writes anew
-        // in single quotes. Qt 5's stream reader cannot tell standalone="no" from none.
+        // in single quotes.
         if (reader.documentVersion().isEmpty())
             break;
-        if (!reader.isStandaloneDocument() && declaresStandalone()) {
+        if (!isPlainDeclaration()) {
             giveUp();
             break;
         }
@@ -61,13 +64,17 @@ void DomBuilder::token(const QXmlStreamReader& reader)
         m_document.appendChild(m_document.createProcessingInstruction(QStringLiteral("xml"), data));
         break;
     }
+    case QXmlStreamReader::StartElement:
+        startElement(reader, noted);
+        break;
     case QXmlStreamReader::EndElement:
-        flushText();
-        m_parent = m_parent.parentNode();
+        // The stream reader may show an end tag without a start before it calls the file
+        // not well-formed; what was built is thrown away then.
+        if (!m_parent.isDocument())
+            m_parent = m_parent.parentNode();
         break;
     case QXmlStreamReader::Characters:
         if (reader.isCDATA()) {
-            flushText();
             const QString text = copied(reader.text());
             if (differsFromParser(text)) {
                 giveUp();
@@ -81,7 +88,6 @@ void DomBuilder::token(const QXmlStreamReader& reader)
         }
         break;
     case QXmlStreamReader::Comment: {
-        flushText();
         const QString text = copied(reader.text());
         if (differsFromParser(text)) {
             giveUp();
@@ -91,9 +97,8 @@ void DomBuilder::token(const QXmlStreamReader& reader)
         break;
     }
     case QXmlStreamReader::ProcessingInstruction: {
-        flushText();
         QString data = copied(reader.processingInstructionData());
-        if (differsFromParser(data)) {
+        if (differsFromParser(data) || !isPlainName(reader.processingInstructionTarget())) {
             giveUp();
             break;
         }
@@ -115,14 +120,16 @@ void DomBuilder::token(const QXmlStreamReader& reader)
 
 void DomBuilder::startElement(const QXmlStreamReader& reader, bool noted)
 {
-    flushText();
     const QXmlStreamAttributes attributes = reader.attributes();
     if (!reader.namespaceDeclarations().isEmpty() || !reader.namespaceUri().isEmpty()) {
         giveUp();
         return;
     }
+    // Everything is looked at before the element is made: giving up drops the document.
+    const QString name = sharedName(reader.name());
+    QVarLengthArray<QString, 8> attributeNames;
     for (const QXmlStreamAttribute& attribute : attributes) {
-        if (!attribute.namespaceUri().isEmpty() || !attribute.prefix().isEmpty()) {
+        if (m_gaveUp || !attribute.namespaceUri().isEmpty() || !attribute.prefix().isEmpty()) {
             giveUp();
             return;
         }
@@ -133,12 +140,15 @@ void DomBuilder::startElement(const QXmlStreamReader& reader, bool noted)
             giveUp();
             return;
         }
+        attributeNames.append(sharedName(attribute.name()));
     }
+    if (m_gaveUp)
+        return;
 
     // As the parser makes them: in no namespace, so with a local name, unlike createElement().
-    QDomElement element = m_document.createElementNS(QString(), sharedName(reader.name()));
-    for (const QXmlStreamAttribute& attribute : attributes)
-        element.setAttributeNS(QString(), sharedName(attribute.name()), copied(attribute.value()));
+    QDomElement element = m_document.createElementNS(QString(), name);
+    for (int i = 0; i < attributes.size(); ++i)
+        element.setAttributeNS(QString(), attributeNames.at(i), copied(attributes.at(i).value()));
     m_parent.appendChild(element);
     m_parent = element;
     if (noted)
@@ -169,6 +179,10 @@ QString DomBuilder::sharedName(const QStringRef& name)
     const auto found = m_names.constFind(QStringView(name));
     if (found != m_names.cend())
         return *found;
+    if (!isPlainName(name)) {
+        giveUp();
+        return QString();
+    }
     const QString copy = copied(name);
     m_names.insert(QStringView(copy), copy);
     return copy;
@@ -214,12 +228,33 @@ bool DomBuilder::hasCharacterReferences() const
     return m_characterReferences == Fact::Present;
 }
 
-bool DomBuilder::declaresStandalone() const
+bool DomBuilder::isPlainDeclaration() const
 {
-    QByteArray declaration = m_content.left(512);
-    declaration.replace('\0', QByteArray());
-    const int end = declaration.indexOf("?>");
-    return end > 0 && declaration.left(end).contains("standalone");
+    // The stream reader lets pass declarations the DOM parser refuses (an attribute twice,
+    // say), and cannot tell standalone="no" from none.
+    static const QRegularExpression plain(
+        QStringLiteral("^(\\xEF\\xBB\\xBF|\\xFF\\xFE|\\xFE\\xFF)?<\\?xml[ \\t\\r\\n]+version[ \\t\\r\\n]*=[ "
+                       "\\t\\r\\n]*(\"[^\"]*\"|'[^']*')"
+                       "([ \\t\\r\\n]+encoding[ \\t\\r\\n]*=[ \\t\\r\\n]*(\"[^\"]*\"|'[^']*'))?"
+                       "([ \\t\\r\\n]+standalone[ \\t\\r\\n]*=[ \\t\\r\\n]*(\"yes\"|'yes'))?[ \\t\\r\\n]*\\?>"));
+    QByteArray start = m_content.left(512);
+    start.replace('\0', QByteArray());
+    return plain.match(QString::fromLatin1(start)).hasMatch();
+}
+
+bool DomBuilder::isPlainName(const QStringRef& name)
+{
+    // The stream reader also lets pass names with characters the DOM parser refuses. Plain
+    // ASCII names are what configurations use, and both take them alike.
+    const auto nameStart = [](QChar c) {
+        return (c >= QLatin1Char('a') && c <= QLatin1Char('z')) || (c >= QLatin1Char('A') && c <= QLatin1Char('Z'))
+            || c == QLatin1Char('_');
+    };
+    const auto nameCharacter = [&nameStart](QChar c) {
+        return nameStart(c) || (c >= QLatin1Char('0') && c <= QLatin1Char('9')) || c == QLatin1Char('-')
+            || c == QLatin1Char('.');
+    };
+    return !name.isEmpty() && nameStart(name.at(0)) && std::all_of(name.cbegin() + 1, name.cend(), nameCharacter);
 }
 
 void DomBuilder::giveUp()

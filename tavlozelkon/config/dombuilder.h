@@ -43,7 +43,8 @@ private:
     bool differsFromParser(QStringView text) const;
     bool hasCarriageReturns() const;
     bool hasCharacterReferences() const;
-    bool declaresStandalone() const;
+    bool isPlainDeclaration() const;
+    static bool isPlainName(const QStringRef& name);
     QString sharedName(const QStringRef& name);
 
     AttributeOrder& m_order;
