@@ -38,16 +38,19 @@ void DocumentController::newDocument()
 
 bool DocumentController::load(const QString& path, QString* reason)
 {
-    const QString problem = ConfigFileCheck::problem(path);
+    // The file is read and parsed once, by the load, and judged by what the load found.
+    QString problem = ConfigFileCheck::problemBeforeReading(path);
+    auto loaded = std::make_unique<ConfigFile>();
+    ConfigReader::Result result;
+    if (problem.isEmpty()) {
+        const bool read = loaded->load(path, &result);
+        problem = ConfigFileCheck::problem(result, *loaded);
+        if (problem.isEmpty() && !read)
+            problem = tr("It cannot be read.");
+    }
     if (!problem.isEmpty()) {
         if (reason)
             *reason = problem;
-        return false;
-    }
-    auto loaded = std::make_unique<ConfigFile>();
-    if (!loaded->load(path)) {
-        if (reason)
-            *reason = tr("It cannot be read.");
         return false;
     }
     loaded->setCurrentNodeAsRoot();

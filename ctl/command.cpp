@@ -56,22 +56,25 @@ int Command::usageError(const QString& message) const
 
 bool Command::loadDocument(const QString& path, ConfigFile* config)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        err() << path << ":1:1: cannot be read: " << file.errorString() << '\n';
+    ConfigReader::Result result;
+    const bool loaded = config->load(path, &result);
+    if (!result.opened) {
+        err() << path << ":1:1: cannot be read: " << result.openError << '\n';
         return false;
     }
-    const QByteArray content = file.read(ParseGuard::MaxFileBytes + 1);
-    const ParseGuard::Result guard = ParseGuard::check(content);
-    if (!guard.accepted()) {
-        err() << path << ':' << guard.line << ':' << guard.column << ": not a configuration file"
-              << (guard.message.isEmpty() ? QString() : QStringLiteral(": ") + guard.message) << '\n';
+    const ParseGuard::Result& parse = result.parse;
+    if (!parse.accepted()) {
+        err() << path << ':' << parse.line << ':' << parse.column << ": not a configuration file"
+              << (parse.message.isEmpty() ? QString() : QStringLiteral(": ") + parse.message) << '\n';
         return false;
     }
-    if (!config->load(path) || config->documentElement().tagName() != QLatin1String("zelkon")) {
+    if (!loaded || config->documentElement().tagName() != QLatin1String("zelkon")) {
         err() << path << ":1:1: not a configuration file: the root element is not \"zelkon\"\n";
         return false;
     }
+    // Only the start of the file, for its declaration; the document was read by the load.
+    QFile file(path);
+    const QByteArray content = file.open(QIODevice::ReadOnly) ? file.read(256) : QByteArray();
     // The parser rewrites the declaration's quotes; a file that is only touched must keep it.
     static const QRegularExpression declaration(QStringLiteral("^\\s*<\\?xml\\s+(.*?)\\?>"));
     const QRegularExpressionMatch match = declaration.match(QString::fromUtf8(content.left(256)));

@@ -11,7 +11,8 @@ class FuzzChecks
 public:
     FuzzChecks() = delete;
 
-    // Load, render the summary, read and write a value, sort and write the text.
+    // Check that the one-pass reader and Qt's parser agree; load, render the summary, read
+    // and write a value, sort and write the text.
     static void document(const QString& path);
     // Load the document and the connection model from it, then write the model back.
     static void connectionModel(const QString& path);

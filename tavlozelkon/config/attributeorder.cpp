@@ -6,6 +6,24 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+// A node's identity: the private object that every handle to the node shares.
+class NodeIdentity : public QDomNode
+{
+public:
+    explicit NodeIdentity(const QDomNode& node)
+        : QDomNode(node)
+    {
+    }
+    const void* key() const { return impl; }
+};
+
+const void* identity(const QDomNode& node)
+{
+    return NodeIdentity(node).key();
+}
+} // namespace
+
 const QStringList& AttributeOrder::rootAttributes()
 {
     static const QStringList names { QStringLiteral("version"), QStringLiteral("creator"),
@@ -20,40 +38,50 @@ void AttributeOrder::clear()
     m_notedElements = 0;
 }
 
-void AttributeOrder::noteElement(const QXmlStreamReader& reader)
+bool AttributeOrder::noteElement(const QXmlStreamReader& reader)
 {
     const int index = m_notedElements++;
     const QXmlStreamAttributes attributes = reader.attributes();
-    if (attributes.isEmpty())
-        return;
+    if (attributes.size() < 2)
+        return false;
     Note note { index, reader.qualifiedName().toString(), {} };
     note.attributes.reserve(attributes.size());
     for (const QXmlStreamAttribute& attribute : attributes)
         note.attributes.append(attribute.qualifiedName().toString());
     m_notes.append(note);
+    return true;
+}
+
+void AttributeOrder::pairWith(const QList<QDomElement>& noted)
+{
+    m_loaded.clear();
+    const QList<Note> notes = std::exchange(m_notes, {});
+    m_notedElements = 0;
+    // If the two ever disagree the pairing would be wrong, and ordering by name is the
+    // safer fallback.
+    if (noted.size() != notes.size())
+        return;
+    for (int i = 0; i < notes.size(); ++i) {
+        if (noted.at(i).nodeName() != notes.at(i).name) {
+            m_loaded.clear();
+            return;
+        }
+        m_loaded.insert(identity(noted.at(i)), Entry { noted.at(i), notes.at(i).attributes });
+    }
 }
 
 void AttributeOrder::pairWith(const QDomDocument& document)
 {
-    m_loaded.clear();
-    const QList<Note> notes = std::exchange(m_notes, {});
-    const int notedElements = std::exchange(m_notedElements, 0);
-
-    // Both parsers see the same elements in the same pre-order; if they ever disagree the
-    // pairing would be wrong, and ordering by name is the safer fallback. Pre-order without
-    // recursion, so that no depth of document can exhaust the stack.
+    QList<QDomElement> noted;
+    noted.reserve(m_notes.size());
+    // Pre-order without recursion, so that no depth of document can exhaust the stack.
     int index = 0;
-    auto note = notes.cbegin();
+    auto note = m_notes.cbegin();
     QDomNode node = document.firstChild();
     while (!node.isNull()) {
         if (node.isElement()) {
-            if (note != notes.cend() && note->index == index) {
-                const QDomElement element = node.toElement();
-                if (element.nodeName() != note->name) {
-                    m_loaded.clear();
-                    return;
-                }
-                m_loaded.insert(Position(element.lineNumber(), element.columnNumber()), note->attributes);
+            if (note != m_notes.cend() && note->index == index) {
+                noted.append(node.toElement());
                 ++note;
             }
             ++index;
@@ -66,8 +94,9 @@ void AttributeOrder::pairWith(const QDomDocument& document)
             node = node.parentNode();
         node = node.nextSibling();
     }
-    if (index != notedElements || note != notes.cend())
-        m_loaded.clear();
+    if (index != m_notedElements)
+        noted.clear();
+    pairWith(noted);
 }
 
 QList<QDomAttr> AttributeOrder::ordered(const QDomElement& element, bool isDocumentElement) const
@@ -80,10 +109,9 @@ QList<QDomAttr> AttributeOrder::ordered(const QDomElement& element, bool isDocum
     if (attributes.size() < 2)
         return attributes;
 
-    // Elements created in this run have no parser position (-1) and nothing recorded.
-    const QStringList loaded = element.lineNumber() < 0
-        ? QStringList()
-        : m_loaded.value(Position(element.lineNumber(), element.columnNumber()));
+    // Elements created in this run have nothing recorded.
+    const auto entry = m_loaded.constFind(identity(element));
+    const QStringList loaded = entry == m_loaded.cend() ? QStringList() : entry->attributes;
     const QStringList& fixed = isDocumentElement ? rootAttributes() : QStringList();
 
     const auto rank = [&](const QString& name) {

@@ -1,6 +1,7 @@
 #include "configfile.h"
 
 #include "attributeorder.h"
+#include "configreader.h"
 #include "device/externaltool.h"
 #include "domwriter.h"
 #include "elementsearch.h"
@@ -19,7 +20,6 @@
 #include <QUrl>
 #include <QXmlSchema>
 #include <QXmlSchemaValidator>
-#include <QXmlStreamReader>
 
 namespace {
 const QString RootName = QStringLiteral("zelkon");
@@ -308,42 +308,29 @@ void ConfigFile::sortNodes()
 
 bool ConfigFile::load(QString path)
 {
+    return load(path, nullptr);
+}
+
+bool ConfigFile::load(const QString& path, ConfigReader::Result* result)
+{
     if ((Platform::isCe() || Platform::isWes()) && !Platform::isStandalone())
         createDefaultConfigFile();
 
-    // Binary on purpose: text mode drops every 0x0D byte, which is half of a character in
-    // UTF-16 ("\r" and letters such as U+010D alike). The XML parser detects the encoding
-    // and normalises line ends itself.
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    // A file the guard refuses is treated like one that cannot be read: the document stays.
-    // Reading one byte past the limit also catches pipes and devices, which tell no size.
-    if (file.size() > ParseGuard::MaxFileBytes)
-        return false;
-    const QByteArray content = file.isSequential() ? file.read(ParseGuard::MaxFileBytes + 1) : file.readAll();
-    file.close();
-    // The guard's pass is the only streaming read of the file; the attribute order is
-    // noted during it rather than by parsing the bytes a second time.
     auto order = std::make_unique<AttributeOrder>();
-    const ParseGuard::Verdict verdict
-        = ParseGuard::check(content, [&order](const QXmlStreamReader& reader) { order->noteElement(reader); }).verdict;
-    if (verdict != ParseGuard::Verdict::Accepted && verdict != ParseGuard::Verdict::NotWellFormed)
+    const ConfigReader::Result read = ConfigReader::readFile(path, *this, order.get());
+    if (result)
+        *result = read;
+    // A file that cannot be opened or that the guard refuses leaves the document as it was.
+    if (!read.opened || (!read.accepted() && read.parse.verdict != ParseGuard::Verdict::NotWellFormed))
         return false;
 
     m_search->clear();
-    const bool parsed = verdict == ParseGuard::Verdict::Accepted && setContent(content, true);
-    if (parsed) {
-        order->pairWith(*this);
-    } else {
-        // Qt keeps what it parsed up to the error; half a configuration is worse than none.
+    // Half a configuration is worse than none: a file that did not parse empties the document.
+    if (!read.accepted())
         QDomNode::clear();
-        order->clear();
-    }
     m_attributeOrder = std::move(order);
     m_currentNode = documentElement();
-    // A file that did not parse left an empty document, which is no successful load.
-    return parsed;
+    return read.accepted();
 }
 
 bool ConfigFile::save(const QString& path)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "configreader.h"
 #include "device/externaltool.h"
 #include "tavlozelkon_lib_export.h"
 
@@ -83,6 +84,8 @@ public:
     // leaving the document as it was, a file that ParseGuard does not accept for its size,
     // depth or amount of text; a file that is not well-formed leaves an empty document.
     bool load(QString path);
+    // The same, telling in result why a file could not be loaded.
+    bool load(const QString& path, ConfigReader::Result* result);
     // Fails, leaving the file as it was, when a value holds a character that an XML file
     // cannot hold (NUL, most control characters, half of a surrogate pair).
     bool save(const QString& path);

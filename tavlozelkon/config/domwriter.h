@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tavlozelkon_lib_export.h"
+
 #include <QString>
 
 class AttributeOrder;
@@ -13,7 +15,7 @@ class QTextStream;
  * hash order. Keeping Qt's layout means files written by earlier versions and by this one
  * differ only where the content does.
  */
-class DomWriter
+class TAVLOZELKON_LIB_EXPORT DomWriter
 {
 public:
     // Without an order only the document element's fixed attributes are placed; all

@@ -3,7 +3,21 @@
 #include <QByteArray>
 #include <QXmlStreamReader>
 
-ParseGuard::Result ParseGuard::check(const QByteArray& content, const ElementObserver& observer)
+namespace {
+class NoListener : public ParseGuard::Listener
+{
+public:
+    void token(const QXmlStreamReader&) override { }
+};
+} // namespace
+
+ParseGuard::Result ParseGuard::check(const QByteArray& content)
+{
+    NoListener none;
+    return check(content, none);
+}
+
+ParseGuard::Result ParseGuard::check(const QByteArray& content, Listener& listener)
 {
     Result result;
     if (content.size() > MaxFileBytes) {
@@ -30,8 +44,6 @@ ParseGuard::Result ParseGuard::check(const QByteArray& content, const ElementObs
             const QXmlStreamAttributes attributes = reader.attributes();
             for (const QXmlStreamAttribute& attribute : attributes)
                 text += attribute.value().size();
-            if (observer)
-                observer(reader);
             break;
         }
         case QXmlStreamReader::EndElement:
@@ -45,6 +57,8 @@ ParseGuard::Result ParseGuard::check(const QByteArray& content, const ElementObs
         }
         if (text > MaxTextCharacters)
             return stop(Verdict::TooMuchText);
+        if (!reader.hasError())
+            listener.token(reader);
     }
     // Whatever the streaming reader rejects is not handed on either: past its first error
     // it has checked nothing, and the DOM parser might read on.

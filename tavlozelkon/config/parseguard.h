@@ -4,7 +4,6 @@
 
 #include <QString>
 #include <QtGlobal>
-#include <functional>
 
 class QByteArray;
 class QXmlStreamReader;
@@ -47,9 +46,16 @@ public:
         bool accepted() const { return verdict == Verdict::Accepted; }
     };
 
-    // Called with the reader standing on each start element, in document order, so that a
-    // caller can learn what it needs from this pass instead of reading the bytes again.
-    using ElementObserver = std::function<void(const QXmlStreamReader&)>;
+    // Shown every token of the pass, the reader standing on it, in document order, so that a
+    // caller can build what it needs from this pass instead of reading the bytes again.
+    // A token that breaks a limit or is not well-formed is not shown; reading stops there.
+    class Listener
+    {
+    public:
+        virtual ~Listener() = default;
+        virtual void token(const QXmlStreamReader& reader) = 0;
+    };
 
-    static Result check(const QByteArray& content, const ElementObserver& observer = {});
+    static Result check(const QByteArray& content);
+    static Result check(const QByteArray& content, Listener& listener);
 };
