@@ -319,11 +319,18 @@ void ConnectionModel::loadDesktop(ConfigFile* config)
 void ConnectionModel::saveConfig(ConfigFile* config)
 {
     const QStringList keys = sSupportedConnectionTypes();
+    // An unchanged type leaves no section behind: on a device the file carries only what
+    // the user changed. Every old section goes before the first new one is written, so
+    // that a large document is never held twice over, and the new sections reuse the
+    // memory of the old ones. The new sections only hold sessions and their settings,
+    // never an element named after a type, so each removal finds what it would find
+    // between the writes.
     for (const QString& key : keys) {
         config->setCurrentNodeAsRoot();
-        // An unchanged type leaves no section behind: on a device the file carries only
-        // what the user changed.
         config->removeNode(key, 0);
+    }
+    for (const QString& key : keys) {
+        config->setCurrentNodeAsRoot();
         saveType(config, key);
     }
     saveDesktop(config);
