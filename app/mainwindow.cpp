@@ -370,9 +370,7 @@ void MainWindow::buildContainerPages()
         m_pageAreas.at(index)->setWidget(pages.at(i));
         connectPage(pages.at(i));
         connect(pages.at(i), &WizardPage::modified, this, &MainWindow::onPageModified);
-        m_pageList->item(index)->setText(pageListText(index));
     }
-    fitPageList();
     const bool rebuilt = m_containerPagesBuilt;
     m_containerPagesBuilt = true;
     m_document->setPages(containerPages());
@@ -424,12 +422,9 @@ void MainWindow::retranslateUi()
     m_titleOpenButton->setText(tr("Open a Configuration..."));
     m_titleSaveButton->setText(tr("Save the Configuration"));
 
-    for (int index = 0; index < PageCount; ++index) {
-        if (m_pages.at(index))
-            m_pageList->item(index)->setText(pageListText(index));
-    }
-    if (m_containerPagesBuilt)
-        fitPageList();
+    for (int index = 0; index < PageCount; ++index)
+        m_pageList->item(index)->setText(pageListText(index));
+    fitPageList();
     updateWindowTitle();
     refreshPageFrame();
 }
@@ -448,7 +443,20 @@ void MainWindow::changeEvent(QEvent* event)
 
 QString MainWindow::pageListText(int index) const
 {
-    return QStringLiteral("%1.  %2").arg(index + 1).arg(m_pages.at(index)->title());
+    // The container pages are made after the first paint; the list names them from the
+    // start, so that it neither fills in nor changes its width then.
+    QString title;
+    if (m_pages.at(index))
+        title = m_pages.at(index)->title();
+    else if (index == RegionalPage)
+        title = ZelkonRegionalPage::pageTitle();
+    else if (index == ManagementPage)
+        title = ZelkonManagementPage::pageTitle();
+    else if (index == PeripheralPage)
+        title = ZelkonPeripheralPage::pageTitle();
+    else if (index == ConnectionsPage)
+        title = ZelkonConnectionsPage::pageTitle();
+    return QStringLiteral("%1.  %2").arg(index + 1).arg(title);
 }
 
 void MainWindow::paintEvent(QPaintEvent* event)

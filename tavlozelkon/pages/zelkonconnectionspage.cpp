@@ -34,6 +34,11 @@ AccordionItem* ZelkonConnectionsPage::setFrame(ConfigFrame* frame)
 
 QString ZelkonConnectionsPage::title() const
 {
+    return pageTitle();
+}
+
+QString ZelkonConnectionsPage::pageTitle()
+{
     return tr("Connections");
 }
 

@@ -17,6 +17,8 @@ public:
     ~ZelkonConnectionsPage() override;
 
     QString title() const override;
+    // The title, also before a page is made: a host may list its pages first.
+    static QString pageTitle();
     QString description() const override;
     void retranslateUi() override;
 

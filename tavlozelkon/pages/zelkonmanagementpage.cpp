@@ -75,6 +75,11 @@ void ZelkonManagementPage::updatePlatformOptions()
 
 QString ZelkonManagementPage::title() const
 {
+    return pageTitle();
+}
+
+QString ZelkonManagementPage::pageTitle()
+{
     return tr("Management");
 }
 

@@ -58,6 +58,11 @@ void ZelkonPeripheralPage::updatePlatformOptions()
 
 QString ZelkonPeripheralPage::title() const
 {
+    return pageTitle();
+}
+
+QString ZelkonPeripheralPage::pageTitle()
+{
     return tr("Peripherals");
 }
 

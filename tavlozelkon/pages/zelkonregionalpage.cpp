@@ -26,6 +26,11 @@ void ZelkonRegionalPage::createItems()
 
 QString ZelkonRegionalPage::title() const
 {
+    return pageTitle();
+}
+
+QString ZelkonRegionalPage::pageTitle()
+{
     return tr("Regional");
 }
 

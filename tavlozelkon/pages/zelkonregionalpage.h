@@ -13,6 +13,8 @@ public:
     ~ZelkonRegionalPage() override;
 
     QString title() const override;
+    // The title, also before a page is made: a host may list its pages first.
+    static QString pageTitle();
     QString description() const override;
     void retranslateUi() override;
 

@@ -31,6 +31,12 @@ private slots:
         QCOMPARE(window.pageList()->count(), int(MainWindow::PageCount));
         QVERIFY(window.pageList()->item(MainWindow::TitlePage)->text().startsWith(QLatin1String("1.  ")));
         QVERIFY(window.pageList()->item(MainWindow::SummaryPage)->text().startsWith(QLatin1String("6.  ")));
+        // The list is complete from the first paint on: it neither fills in nor changes
+        // its width when the pages arrive.
+        QStringList shownFirst;
+        for (int index = 0; index < MainWindow::PageCount; ++index)
+            shownFirst.append(window.pageList()->item(index)->text());
+        const int firstWidth = window.pageList()->width();
 
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
@@ -38,7 +44,9 @@ private slots:
         for (int index = MainWindow::RegionalPage; index < MainWindow::SummaryPage; ++index) {
             QCOMPARE(window.pageList()->item(index)->text(),
                      QStringLiteral("%1.  %2").arg(index + 1).arg(window.page(index)->title()));
+            QCOMPARE(window.pageList()->item(index)->text(), shownFirst.at(index));
         }
+        QCOMPARE(window.pageList()->width(), firstWidth);
         QCOMPARE(window.containerPages().size(), 4);
         // The first pages are not news; only pages built anew are.
         QCOMPARE(built.count(), 0);
