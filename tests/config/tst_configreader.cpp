@@ -75,6 +75,14 @@ QByteArray utf16(const QString& text, bool bigEndian)
     return (bigEndian ? QByteArray("\xFE\xFF", 2) : QByteArray("\xFF\xFE", 2)) + codec->fromUnicode(text);
 }
 
+// Writes content to a file of that name in dir; an empty path when it could not.
+QString writtenFile(const QTemporaryDir& dir, const QString& name, const QByteArray& content)
+{
+    const QString path = dir.filePath(name);
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? path : QString();
+}
+
 const char* const Root = "<zelkon version=\"1.0\" creator=\"zelkon\" creator_version=\"2.0\">";
 } // namespace
 
@@ -254,10 +262,8 @@ private slots:
         QFETCH(QByteArray, content);
         QFETCH(QString, expected);
         QTemporaryDir dir;
-        const QString path = dir.filePath(QStringLiteral("order.tavlocfg"));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-        file.close();
+        const QString path = writtenFile(dir, QStringLiteral("order.tavlocfg"), content);
+        QVERIFY(!path.isEmpty());
         ConfigFile config;
         QVERIFY(config.load(path));
         QCOMPARE(config.toString(), expected);
@@ -290,10 +296,8 @@ private slots:
         QFETCH(bool, blank);
         QFETCH(bool, kept);
         QTemporaryDir dir;
-        const QString path = dir.filePath(QStringLiteral("file.tavlocfg"));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-        file.close();
+        const QString path = writtenFile(dir, QStringLiteral("file.tavlocfg"), content);
+        QVERIFY(!path.isEmpty());
 
         ConfigFile config;
         config.setValue(QStringLiteral("kept"), QStringLiteral("yes"));
