@@ -121,11 +121,14 @@ int Launcher::run(const QStringList& arguments)
         window.titlePage()->platformCombo()->setCurrentIndex(commandLine.platformIndex());
     if (!commandLine.fileName().isEmpty()) {
         // Rendering runs unattended: say what is wrong instead of waiting for a message box.
-        const QString problem = ConfigFileCheck::problem(commandLine.fileName());
-        if (!problem.isEmpty() && !commandLine.screenshotDirectory().isEmpty()) {
-            err() << tr("Cannot open \"%1\": %2").arg(QDir::toNativeSeparators(commandLine.fileName()), problem)
-                  << Qt::endl;
-            return 1;
+        // Only then is the file judged here; otherwise opening it tells the user.
+        if (!commandLine.screenshotDirectory().isEmpty()) {
+            const QString problem = ConfigFileCheck::problem(commandLine.fileName());
+            if (!problem.isEmpty()) {
+                err() << tr("Cannot open \"%1\": %2").arg(QDir::toNativeSeparators(commandLine.fileName()), problem)
+                      << Qt::endl;
+                return 1;
+            }
         }
         window.openFile(commandLine.fileName());
     }
