@@ -2,13 +2,22 @@
 
 namespace {
 const int MaxCounts = 4;
+// Nodes visited through the DOM interface before a search goes to Qt's node list.
+const int HandleWalkBudget = 256;
 } // namespace
 
 QDomElement ElementSearch::first(const QDomElement& top, const QString& name)
 {
     // Pre-order below top, without recursion, so that no depth of document exhausts the stack.
+    // Most searches end within a few nodes: a value of a record, a section near the start.
+    // One that goes on is handed to Qt's own node list, which walks the tree without the
+    // DOM interface's handles, several times faster; that matters when a large document
+    // is searched for a section it does not have.
+    int budget = HandleWalkBudget;
     QDomNode node = top.firstChild();
     while (!node.isNull()) {
+        if (--budget == 0)
+            return top.elementsByTagName(name).item(0).toElement();
         if (node.isElement() && node.nodeName() == name)
             return node.toElement();
         if (node.hasChildNodes()) {

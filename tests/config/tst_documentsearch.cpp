@@ -132,6 +132,36 @@ private slots:
         QCOMPARE(config.attribute(QStringLiteral("id")), QStringLiteral("1"));
     }
 
+    // A search that goes on past the first few hundred nodes still finds the first match in
+    // document order, however deep, and leaves the cursor alone when there is none.
+    void longSearchesFindTheFirstInDocumentOrder()
+    {
+        ConfigFile config;
+        config.addNode(QStringLiteral("rdp"));
+        for (int i = 0; i < 300; ++i) {
+            config.addNode(QStringLiteral("session"));
+            config.setValue(QStringLiteral("name"), QStringLiteral("host %1").arg(i));
+            config.leaveNode();
+        }
+        config.setCurrentNodeAsRoot();
+        config.addNode(QStringLiteral("late"));
+        config.addNode(QStringLiteral("deep"));
+        config.setValue(QStringLiteral("target"), QStringLiteral("inner"));
+        config.setCurrentNodeAsRoot();
+        config.createTextNode(QStringLiteral("target"), QStringLiteral("outer"));
+
+        config.setCurrentNodeAsRoot();
+        QCOMPARE(config.value(QStringLiteral("target")), QStringLiteral("inner"));
+        QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/late/deep"));
+        config.setCurrentNodeAsRoot();
+        QVERIFY(!config.findNode(QStringLiteral("absent"), 0));
+        QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon"));
+        // From inside the long list the search stays below the cursor.
+        QVERIFY(config.findNode(QStringLiteral("rdp"), 0));
+        QVERIFY(!config.findNode(QStringLiteral("target"), 0));
+        QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/rdp"));
+    }
+
     void attributeOrderSurvivesALoad()
     {
         // Elements with and without attributes at several depths: each keeps its own order.
