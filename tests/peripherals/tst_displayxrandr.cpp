@@ -159,8 +159,11 @@ void TestDisplayXrandr::readsTheModeOfALiveServer()
         QSKIP("libXrandr.so.2 is not installed; the query needs it at run time");
     dlclose(xrandr);
 
-    // Xvfb picks a free display and writes its number once it accepts connections.
-    m_xvfb.start(QStringLiteral("Xvfb"), { "-displayfd", "1", "-nolisten", "tcp", "-screen", "0", "1280x1024x24" });
+    // Xvfb picks a free display and writes its number once it accepts connections. Without
+    // -noreset it would reset whenever its last client leaves, as each query here does, and
+    // refuse connections while it does: on a busy machine the next query came too early.
+    m_xvfb.start(QStringLiteral("Xvfb"),
+                 { "-displayfd", "1", "-noreset", "-nolisten", "tcp", "-screen", "0", "1280x1024x24" });
     if (!m_xvfb.waitForStarted(5000) || !m_xvfb.waitForReadyRead(15000))
         QSKIP("Xvfb could not be started");
     const QByteArray displayName = ':' + m_xvfb.readAllStandardOutput().trimmed();
