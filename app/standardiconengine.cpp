@@ -40,6 +40,12 @@ bool styleDrawsShippedImages(const Source& source)
     return !themed || !QIcon::hasThemeIcon(source.themeName);
 }
 
+// The image Qt ships for stem at extent pixels.
+QString imagePath(const QString& stem, int extent)
+{
+    return QStringLiteral(":/qt-project.org/styles/commonstyle/images/%1-%2.png").arg(stem).arg(extent);
+}
+
 // The extent an icon holding all of Extents draws a request of this size from: the
 // smallest that covers it, or else the largest.
 int chosenExtent(const QSize& size)
@@ -56,8 +62,7 @@ int chosenExtent(const QSize& size)
 QIcon StandardIconEngine::icon(QStyle::StandardPixmap which)
 {
     const Source source = sourceOf(which);
-    if (source.stem.isEmpty() || !styleDrawsShippedImages(source)
-        || !QFile::exists(StandardIconEngine(source.stem).imagePath(Extents[0])))
+    if (source.stem.isEmpty() || !styleDrawsShippedImages(source) || !QFile::exists(imagePath(source.stem, Extents[0])))
         return QApplication::style()->standardIcon(which);
     return QIcon(new StandardIconEngine(source.stem));
 }
@@ -67,18 +72,13 @@ StandardIconEngine::StandardIconEngine(const QString& stem)
 {
 }
 
-QString StandardIconEngine::imagePath(int extent) const
-{
-    return QStringLiteral(":/qt-project.org/styles/commonstyle/images/%1-%2.png").arg(m_stem).arg(extent);
-}
-
 void StandardIconEngine::ensureImageFor(const QSize& size)
 {
     const int extent = chosenExtent(size);
     if (m_readExtents.contains(extent))
         return;
     m_readExtents.append(extent);
-    m_read.addFile(imagePath(extent), QSize(extent, extent));
+    m_read.addFile(imagePath(m_stem, extent), QSize(extent, extent));
 }
 
 QPixmap StandardIconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state)

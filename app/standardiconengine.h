@@ -30,7 +30,6 @@ private:
     explicit StandardIconEngine(const QString& stem);
     // Reads the image the style's icon would draw at this size, unless it is read already.
     void ensureImageFor(const QSize& size);
-    QString imagePath(int extent) const;
 
     QString m_stem;
     // The sizes read so far; always holds the one the whole set would choose.
