@@ -7,6 +7,7 @@
 #include "mainwindow.h"
 #include "pagescreenshotter.h"
 
+#include "config/allocatortuning.h"
 #include "device/machineroot.h"
 #include "pages/zelkontitlepage.h"
 
@@ -35,6 +36,7 @@ QTextStream& err()
 void Launcher::prepareProcess()
 {
     std::signal(SIGXFSZ, SIG_IGN);
+    AllocatorTuning::forLargeDocuments();
 }
 
 QStringList Launcher::prepareArguments(int& argc, char** argv)

@@ -17,7 +17,7 @@ public:
 
     // Process-wide settings, first thing in main(): a write beyond the file-size limit
     // then fails like a full disk (the save is reported and the old file kept) instead of
-    // ending the process with SIGXFSZ.
+    // ending the process with SIGXFSZ; and the allocator is tuned for large documents.
     static void prepareProcess();
     // Before the application object exists, which would take some of our options for
     // its own: returns the whole command line for run() and leaves in argc/argv only

@@ -6,6 +6,7 @@
 #include "firstpaintprobe.h"
 #include "pipeline.h"
 
+#include "config/allocatortuning.h"
 #include "device/machineroot.h"
 
 #include <QCoreApplication>
@@ -272,6 +273,8 @@ void printUsage()
 
 int main(int argc, char** argv)
 {
+    // The worker runs the pipeline the way the wizard and zelkonctl run it.
+    AllocatorTuning::forLargeDocuments();
     QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == QLatin1String("--worker"))
