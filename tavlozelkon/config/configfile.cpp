@@ -91,6 +91,14 @@ int ConfigFile::addNode(QString name)
     return count;
 }
 
+bool ConfigFile::appendNode(const QString& name)
+{
+    if (!m_currentNode.isElement())
+        return false;
+    appendElement(name);
+    return true;
+}
+
 void ConfigFile::appendElement(const QString& name)
 {
     const QDomElement element = createElement(name);

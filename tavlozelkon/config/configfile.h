@@ -46,6 +46,10 @@ public:
     bool findNode(QString name, int index);
     QDomNode findNode(const QString& name, const QDomNode& start) const;
     int addNode(QString name);
+    // addNode() without its index, for callers that ignore it: counting the namesakes
+    // walks the cursor's whole subtree, the whole document when the cursor is the root.
+    // False, and nothing appended, when the cursor is not an element.
+    bool appendNode(const QString& name);
     bool leaveNode();
     bool removeNode(QString name, int index);
     void removeValue(QString key);

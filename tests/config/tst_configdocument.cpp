@@ -51,11 +51,17 @@ private slots:
         config.setCurrentNodeAsRoot();
         QCOMPARE(config.addNode(QStringLiteral("session")), 2);
         QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/session"));
+        // appendNode() appends the same way, without the index, and then counts as a namesake.
+        QVERIFY(config.appendNode(QStringLiteral("proxy")));
+        QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/session/proxy"));
+        config.setCurrentNodeAsRoot();
+        QCOMPARE(config.addNode(QStringLiteral("proxy")), 1);
 
         // A root of another name leaves no element under the cursor, and nothing is added.
         setXml(config, "<other/>");
         QVERIFY(config.currentNode().isNull());
         QCOMPARE(config.addNode(QStringLiteral("sound")), -1);
+        QVERIFY(!config.appendNode(QStringLiteral("sound")));
         QVERIFY(!config.documentElement().hasChildNodes());
     }
 

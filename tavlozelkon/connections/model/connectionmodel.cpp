@@ -344,10 +344,11 @@ void ConnectionModel::saveType(ConfigFile* config, const QString& key)
     const SectionLayout layout = sectionLayout(key);
     const QString proxy = QStringLiteral("proxy");
 
-    config->addNode(key);
+    // The sections are appended without counting their namesakes, an index no one reads.
+    config->appendNode(key);
     if (layout.generalSettings) {
-        config->addNode(QStringLiteral("general_settings"));
-        config->addNode(proxy);
+        config->appendNode(QStringLiteral("general_settings"));
+        config->appendNode(proxy);
         writeFields(config, kind->findAtom(QStringLiteral("general_settings")), proxyFields(), false);
         config->leaveNode();
         config->leaveNode();
@@ -355,11 +356,11 @@ void ConnectionModel::saveType(ConfigFile* config, const QString& key)
 
     const QList<ConnectionSession*> sessions = kind->sessions();
     for (const ConnectionSession* session : sessions) {
-        config->addNode(QStringLiteral("session"));
+        config->appendNode(QStringLiteral("session"));
         config->setAttributeValue(QStringLiteral("id"), session->id());
         writeFields(config, session, layout.sessionFields, true);
         if (layout.sessionProxy) {
-            config->addNode(proxy);
+            config->appendNode(proxy);
             writeFields(config, session->findAtom(proxy), proxyFields(), false);
             config->leaveNode();
         }
@@ -375,7 +376,7 @@ void ConnectionModel::saveDesktop(ConfigFile* config)
     // second one is appended; loading reads the first.
     if (!m_desktop->isDirty())
         return;
-    config->addNode(QStringLiteral("desktop"));
+    config->appendNode(QStringLiteral("desktop"));
     config->setBoolValue(QStringLiteral("kiosk_mode"), m_desktop->property("kiosk_mode").toBool());
     config->leaveNode();
 }
