@@ -7,8 +7,8 @@
  * of ten thousand sessions is some hundreds of thousands of small nodes and strings, and
  * replacing a section or the whole document frees them all at once. glibc keeps small
  * freed blocks in "fast bins" unmerged and merges them all at the next large request,
- * which then stalls: the summary after a save on the device took tens of milliseconds
- * for a few kilobytes of text, and freeing a large document walked its memory twice.
+ * which then stalls: the first summary after a large save on the device waited tens of
+ * milliseconds for it, and freeing a large document walked its memory twice.
  * Without fast bins each block is merged as it is freed, while the per-thread cache still
  * serves the short-lived small blocks. Peak memory is unchanged.
  *
