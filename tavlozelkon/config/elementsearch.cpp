@@ -10,14 +10,14 @@ QDomElement ElementSearch::first(const QDomElement& top, const QString& name)
 {
     // Pre-order below top, without recursion, so that no depth of document exhausts the stack.
     // Most searches end within a few nodes: a value of a record, a section near the start.
-    // One that goes on is handed to Qt's own node list, which walks the tree without the
+    // One that goes on is handed to Qt's own node lists, which walk the tree without the
     // DOM interface's handles, several times faster; that matters when a large document
     // is searched for a section it does not have.
     int budget = HandleWalkBudget;
     QDomNode node = top.firstChild();
     while (!node.isNull()) {
         if (--budget == 0)
-            return top.elementsByTagName(name).item(0).toElement();
+            return firstByChild(top, name);
         if (node.isElement() && node.nodeName() == name)
             return node.toElement();
         if (node.hasChildNodes()) {
@@ -30,6 +30,26 @@ QDomElement ElementSearch::first(const QDomElement& top, const QString& name)
                 return QDomElement();
         }
         node = node.nextSibling();
+    }
+    return QDomElement();
+}
+
+QDomElement ElementSearch::firstByChild(const QDomElement& top, const QString& name)
+{
+    // A child comes before its own descendants and after those of the children before it,
+    // so the subtrees after the one holding the first match are never walked. A section
+    // found near the start of a large document then costs the sections before it only.
+    for (QDomNode child = top.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (!child.isElement())
+            continue;
+        const QDomElement element = child.toElement();
+        if (element.tagName() == name)
+            return element;
+        if (element.hasChildNodes()) {
+            const QDomElement match = element.elementsByTagName(name).item(0).toElement();
+            if (!match.isNull())
+                return match;
+        }
     }
     return QDomElement();
 }

@@ -42,6 +42,8 @@ private:
     };
 
     static bool isWithin(const QDomNode& node, const QDomNode& top);
+    // first() for a search that runs long.
+    static QDomElement firstByChild(const QDomElement& top, const QString& name);
 
     QDomElement m_listTop;
     QString m_listName;

@@ -149,10 +149,19 @@ private slots:
         config.setValue(QStringLiteral("target"), QStringLiteral("inner"));
         config.setCurrentNodeAsRoot();
         config.createTextNode(QStringLiteral("target"), QStringLiteral("outer"));
+        // Here the element of the root comes first, before a deeper namesake after it.
+        config.setCurrentNodeAsRoot();
+        config.createTextNode(QStringLiteral("mark"), QStringLiteral("outer"));
+        config.setCurrentNodeAsRoot();
+        config.addNode(QStringLiteral("later"));
+        config.setValue(QStringLiteral("mark"), QStringLiteral("inner"));
 
         config.setCurrentNodeAsRoot();
         QCOMPARE(config.value(QStringLiteral("target")), QStringLiteral("inner"));
         QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/late/deep"));
+        config.setCurrentNodeAsRoot();
+        QCOMPARE(config.value(QStringLiteral("mark")), QStringLiteral("outer"));
+        QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon"));
         config.setCurrentNodeAsRoot();
         QVERIFY(!config.findNode(QStringLiteral("absent"), 0));
         QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon"));
