@@ -3,7 +3,16 @@
 #include <QtTest>
 #include <vector>
 
-#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
+// A sanitizer brings its own allocator, which ignores the tuning.
+#if defined(__SANITIZE_ADDRESS__)
+#define SANITIZER_ALLOCATOR 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define SANITIZER_ALLOCATOR 1
+#endif
+#endif
+
+#if defined(__GLIBC__) && !defined(SANITIZER_ALLOCATOR)
 #include <malloc.h>
 #define GLIBC_ALLOCATOR 1
 #endif
