@@ -40,8 +40,12 @@ QDomElement ElementSearch::firstByChild(const QDomElement& top, const QString& n
     // so the subtrees after the one holding the first match are never walked. A section
     // found near the start of a large document then costs the sections before it only.
     for (QDomNode child = top.firstChild(); !child.isNull(); child = child.nextSibling()) {
-        if (!child.isElement())
+        if (!child.isElement()) {
+            // An entity reference may hold elements, and has no node list of its own.
+            if (child.hasChildNodes())
+                return top.elementsByTagName(name).item(0).toElement();
             continue;
+        }
         const QDomElement element = child.toElement();
         if (element.tagName() == name)
             return element;

@@ -162,6 +162,13 @@ private slots:
         config.setCurrentNodeAsRoot();
         QCOMPARE(config.value(QStringLiteral("mark")), QStringLiteral("outer"));
         QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon"));
+        // Elements inside a node other than an element are found in their place too.
+        QDomEntityReference reference = config.createEntityReference(QStringLiteral("held"));
+        reference.appendChild(config.createElement(QStringLiteral("late")));
+        config.documentElement().insertAfter(reference, config.documentElement().firstChild());
+        config.setCurrentNodeAsRoot();
+        QVERIFY(config.findNode(QStringLiteral("late"), 0));
+        QVERIFY(config.currentNode().parentNode().isEntityReference());
         config.setCurrentNodeAsRoot();
         QVERIFY(!config.findNode(QStringLiteral("absent"), 0));
         QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon"));
