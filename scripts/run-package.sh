@@ -34,7 +34,9 @@ echo "package: built in $(($(date +%s) - start)) s"
 # Errors fail the build; warnings are shown and have been looked at.
 lintian --fail-on error --tag-display-limit 0 "$build"/*.deb
 
-DEBIAN_FRONTEND=noninteractive $SUDO apt-get install -y ./"$build"/*.deb
+# --reinstall: a machine that already has packages of this version (an earlier run) would
+# otherwise keep its old libraries beside the new programs.
+DEBIAN_FRONTEND=noninteractive $SUDO apt-get install -y --reinstall ./"$build"/*.deb
 
 examples=/usr/share/zelkon/examples
 scratch=$(mktemp -d)
