@@ -2,8 +2,11 @@
 
 namespace {
 const int MaxCounts = 4;
-// Nodes visited through the DOM interface before a search goes to Qt's node list.
+// Nodes visited through the DOM interface before a search goes to Qt's node lists.
 const int HandleWalkBudget = 256;
+// Children of the top searched one by one at most; more, such as the records of a long
+// list, are searched as one, since each list costs more than the few nodes of a record.
+const int MaxChildSearches = 64;
 } // namespace
 
 QDomElement ElementSearch::first(const QDomElement& top, const QString& name)
@@ -39,6 +42,8 @@ QDomElement ElementSearch::firstByChild(const QDomElement& top, const QString& n
     // A child comes before its own descendants and after those of the children before it,
     // so the subtrees after the one holding the first match are never walked. A section
     // found near the start of a large document then costs the sections before it only.
+    if (top.childNodes().count() > MaxChildSearches)
+        return top.elementsByTagName(name).item(0).toElement();
     for (QDomNode child = top.firstChild(); !child.isNull(); child = child.nextSibling()) {
         if (!child.isElement()) {
             // An entity reference may hold elements, and has no node list of its own.

@@ -110,6 +110,8 @@ private slots:
             QCOMPARE(config.addNode(QStringLiteral("session")), i);
             config.setAttributeValue(QStringLiteral("id"), QString::number(i));
             config.setValue(QStringLiteral("name"), QStringLiteral("host %1").arg(i));
+            if (i == 298)
+                config.setValue(QStringLiteral("port"), QStringLiteral("3389"));
             config.leaveNode();
         }
         // A namesake deeper down counts for later appends, as it always has.
@@ -141,6 +143,8 @@ private slots:
         for (int i = 0; i < 300; ++i) {
             config.addNode(QStringLiteral("session"));
             config.setValue(QStringLiteral("name"), QStringLiteral("host %1").arg(i));
+            if (i == 298)
+                config.setValue(QStringLiteral("port"), QStringLiteral("3389"));
             config.leaveNode();
         }
         config.setCurrentNodeAsRoot();
@@ -176,6 +180,8 @@ private slots:
         QVERIFY(config.findNode(QStringLiteral("rdp"), 0));
         QVERIFY(!config.findNode(QStringLiteral("target"), 0));
         QCOMPARE(config.currentNodePath(), QStringLiteral("zelkon/rdp"));
+        QCOMPARE(config.value(QStringLiteral("port")), QStringLiteral("3389"));
+        QCOMPARE(config.value(QStringLiteral("name")), QStringLiteral("host 298"));
     }
 
     void attributeOrderSurvivesALoad()
