@@ -74,10 +74,10 @@ bool Command::loadDocument(const QString& path, ConfigFile* config)
     }
     // Only the start of the file, for its declaration; the document was read by the load.
     QFile file(path);
-    const QByteArray content = file.open(QIODevice::ReadOnly) ? file.read(256) : QByteArray();
+    const QByteArray start = file.open(QIODevice::ReadOnly) ? file.read(256) : QByteArray();
     // The parser rewrites the declaration's quotes; a file that is only touched must keep it.
     static const QRegularExpression declaration(QStringLiteral("^\\s*<\\?xml\\s+(.*?)\\?>"));
-    const QRegularExpressionMatch match = declaration.match(QString::fromUtf8(content.left(256)));
+    const QRegularExpressionMatch match = declaration.match(QString::fromUtf8(start));
     QDomProcessingInstruction instruction = config->firstChild().toProcessingInstruction();
     if (match.hasMatch() && !instruction.isNull() && instruction.target() == QLatin1String("xml"))
         instruction.setData(match.captured(1));
