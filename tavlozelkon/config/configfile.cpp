@@ -215,11 +215,8 @@ QString ConfigFile::boolText(bool b)
 
 void ConfigFile::createTextNode(QString key, QString text)
 {
-    // As addNode(key), without counting namesakes for a result nobody reads.
-    if (!m_currentNode.isElement())
-        return;
-    appendElement(key);
-    m_currentNode.appendChild(newTextNode(text));
+    if (appendNode(key))
+        m_currentNode.appendChild(newTextNode(text));
 }
 
 QDomText ConfigFile::newTextNode(const QString& text)
