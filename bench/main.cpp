@@ -68,6 +68,11 @@ QString sizeLabel(int size)
     return size % 1000 == 0 ? QString::number(size / 1000) + QLatin1Char('k') : QString::number(size);
 }
 
+double fastest(const QList<double>& values)
+{
+    return values.isEmpty() ? 0 : *std::min_element(values.cbegin(), values.cend());
+}
+
 double median(QList<double> values)
 {
     std::sort(values.begin(), values.end());
@@ -109,11 +114,7 @@ struct Measurement
     }
 
     // Of the step with this index, or of the whole pipeline past the last step.
-    double fastest(int step) const
-    {
-        const QList<double>& runs = this->runs(step);
-        return runs.isEmpty() ? 0 : *std::min_element(runs.cbegin(), runs.cend());
-    }
+    double fastest(int step) const { return ::fastest(runs(step)); }
     double typical(int step) const { return median(runs(step)); }
 
 private:
@@ -305,8 +306,7 @@ void benchStartup(int runs)
     };
     report(QStringLiteral("median"), [](const QList<double>& values) { return median(values); });
     // On a busy machine the fastest runs are the ones least disturbed by everything else.
-    report(QStringLiteral("fastest"),
-           [](const QList<double>& values) { return *std::min_element(values.cbegin(), values.cend()); });
+    report(QStringLiteral("fastest"), fastest);
 }
 
 void printUsage()
